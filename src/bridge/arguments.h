@@ -1,0 +1,206 @@
+// Adaptors between the plain arrays of a macro and the containers of a worker. They live as long as one call
+// and convert, nothing else. Internal.
+//
+// On the way in a required array that is null although it should have cells ends the call with the entry's
+// failure value; an Optional one becomes a null container. On the way out nothing is written until the worker
+// has returned and everything that can still fail has been done: store() first prepares all results, then
+// writes them.
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <stdexcept>
+#include <type_traits>
+
+#include "core/Smatrix.h"
+#include "core/addressing.h"
+#include "core/matrix.h"
+#include "platform/ole_strings.h"
+
+namespace bridge {
+
+/// How the doubles of an input array become cells.
+enum class Cells {
+  FlagMissing,  ///< missing ones flagged, their value 0.0
+  KeepAll       ///< as they stand, markers included
+};
+
+/// A null array where there should be cells. Never leaves the guard.
+class NullArray : public std::invalid_argument {
+ public:
+  NullArray() : std::invalid_argument("null array") {}
+};
+
+template <class Element>
+Element* required(Element* array, int n, int p) {
+  if (array == nullptr && addressing::cellCount(n, p) > 0) throw NullArray();
+  return array;
+}
+
+/// A table of doubles, read only.
+class InTable {
+ public:
+  InTable(const double* array, int n, int p, Cells cells = Cells::FlagMissing)
+      : table_(n, p, required(array, n, p), cells == Cells::KeepAll, 0, 0) {}
+
+  operator const matrix*() const { return &table_; }
+
+ private:
+  matrix table_;
+};
+
+/// A vector of doubles, read only.
+class InVector : public InTable {
+ public:
+  InVector(const double* array, int n, Cells cells = Cells::FlagMissing) : InTable(array, n, 1, cells) {}
+};
+
+/// A vector of doubles that the macro may leave out; the worker then sees a null container.
+class OptionalVector {
+ public:
+  OptionalVector(const double* array, int n, Cells cells = Cells::FlagMissing) {
+    if (array != nullptr) vector_.emplace(array, n, cells);
+  }
+
+  operator const matrix*() const { return vector_ ? static_cast<const matrix*>(*vector_) : nullptr; }
+
+ private:
+  std::optional<InVector> vector_;
+};
+
+/// A table of integers or of flags that is data, read only; never a missing cell. Flags that leave rows out
+/// are handed to the worker as they are and need no adaptor.
+template <class Element>
+class InIntegers {
+ public:
+  InIntegers(const Element* array, int n, int p = 1) : table_(n, p, required(array, n, p)) {}
+
+  operator const matrix*() const { return &table_; }
+
+ private:
+  matrix table_;
+};
+
+using InInts = InIntegers<int>;
+using InFlags = InIntegers<VARIANT_BOOL>;
+
+/// OLE strings as Smatrix takes them.
+inline const unsigned short* const* addressOfCharacters(const BSTR* array) {
+  return reinterpret_cast<const unsigned short* const*>(array);
+}
+
+/// A table of strings, read only.
+class InText {
+ public:
+  InText(BSTR* array, int n, int p = 1) : table_(n, p, addressOfCharacters(required(array, n, p)), 0, 0) {}
+
+  operator const Smatrix*() const { return &table_; }
+
+ private:
+  Smatrix table_;
+};
+
+/// A result that goes to an array of doubles (flagged cells as the marker), integers (truncated) or flags (-1
+/// for anything but 0.0). The worker sees a null container and sizes it.
+template <class Element>
+class OutArray {
+ public:
+  explicit OutArray(Element* array) : OutArray(array, nullptr) {}
+  OutArray(const OutArray&) = delete;
+  ~OutArray() { delete result_; }
+
+  operator matrix*&() { return result_; }
+
+  void prepare() const {
+    if (result_ != nullptr) required(array_, result_->nX, result_->pX);
+  }
+  void write() const noexcept {
+    if (result_ != nullptr) result_->copyMatTo(array_);
+  }
+
+ protected:
+  OutArray(Element* array, matrix* result) : array_(array), result_(result) {}
+
+  Element* array_;
+  matrix* result_;
+};
+
+using OutTable = OutArray<double>;
+using OutInts = OutArray<int>;
+using OutFlags = OutArray<VARIANT_BOOL>;
+
+/// An array that the worker rewrites in place. What goes back is the container that the worker leaves behind,
+/// also when it has put another one in place of the one it was given.
+template <class Element>
+class InOutArray : public OutArray<Element> {
+ public:
+  InOutArray(Element* array, int n, int p, Cells cells = Cells::FlagMissing)
+      : OutArray<Element>(array, wrap(array, n, p, cells)), given_(this->result_) {}
+  ~InOutArray() {
+    if (this->result_ != given_) delete given_;
+  }
+
+ private:
+  static matrix* wrap(const Element* array, int n, int p, Cells cells) {
+    if constexpr (std::is_same_v<Element, double>) {
+      return new matrix(n, p, required(array, n, p), cells == Cells::KeepAll, 0, 0);
+    } else {
+      return new matrix(n, p, required(array, n, p));
+    }
+  }
+
+  matrix* given_;
+};
+
+using InOutTable = InOutArray<double>;
+using InOutInts = InOutArray<int>;
+using InOutFlags = InOutArray<VARIANT_BOOL>;
+
+/// A result that goes to an array of strings: a new OLE string in every slot, former ones not freed.
+class OutText {
+ public:
+  explicit OutText(BSTR* array) : OutText(array, nullptr) {}
+  OutText(const OutText&) = delete;
+  ~OutText() { delete result_; }
+
+  operator Smatrix*&() { return result_; }
+
+  void prepare() {
+    if (result_ == nullptr) return;
+    required(array_, result_->nX, result_->pX);
+    strings_.make(result_->cells, static_cast<std::size_t>(addressing::cellCount(*result_)));
+  }
+  void write() noexcept { strings_.handOverTo(array_); }
+
+ protected:
+  OutText(BSTR* array, Smatrix* result) : array_(array), result_(result) {}
+
+  BSTR* array_;
+  Smatrix* result_;
+
+ private:
+  NewStrings strings_;
+};
+
+/// An array of strings that the worker rewrites in place.
+class InOutText : public OutText {
+ public:
+  InOutText(BSTR* array, int n, int p = 1)
+      : OutText(array, new Smatrix(n, p, addressOfCharacters(required(array, n, p)), 0, 0)),
+        given_(result_) {}
+  ~InOutText() {
+    if (result_ != given_) delete given_;
+  }
+
+ private:
+  Smatrix* given_;
+};
+
+/// Writes the results of a call to the macro's arrays: all of them, or none when one of them cannot be.
+template <class... Results>
+void store(Results&... results) {
+  (results.prepare(), ...);
+  (results.write(), ...);
+}
+
+}  // namespace bridge

@@ -1,0 +1,144 @@
+// Access to the leading n x p block of a matrix, or the first n cells of a vector, at full speed and with the
+// element accessors' rules: a read outside the container is -1.0, a write into a flagged cell is dropped, a
+// write makes the cached statistics stale. A worker asks for its operands once and then loops over plain
+// memory. Internal.
+//
+// Cell (i, j) of a block is at i + stride() * j. Where the block lies inside the container it is the
+// container's own memory; otherwise it is a padded copy. A null container has no cells, so every read of it
+// is outside.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstring>
+#include <vector>
+
+#include "core/addressing.h"
+#include "core/matrix.h"
+
+namespace block {
+
+/// Whether cell (n - 1, p - 1), and with it the whole block, lies inside the container.
+inline bool liesInside(const matrix* m, int n, int p) {
+  return m != nullptr && addressing::linearIndex(n - 1, p - 1, m->nX) < addressing::cellCount(*m);
+}
+
+/// The cells of one array of a container, with a value for those outside.
+///
+/// @tparam T      double for values, char for flags (no vector of bool: kernels want addresses)
+template <class T>
+class Reader {
+ public:
+  std::ptrdiff_t stride() const { return stride_; }
+
+ protected:
+  /// @param array  the container's array; looked at only inside the container
+  Reader(const matrix* m, const T* array, int n, int p, T outside) {
+    if (addressing::cellCount(n, p) == 0) return;
+    if (liesInside(m, n, p)) {
+      cells_ = array;
+      stride_ = m->nX;
+    } else {
+      pad(m, array, n, p, outside);
+    }
+  }
+
+  const T* cells_ = nullptr;
+
+ private:
+  void pad(const matrix* m, const T* array, int n, int p, T outside) {
+    padded_.assign(static_cast<std::size_t>(addressing::cellCount(n, p)), outside);
+    const std::int64_t cells = m == nullptr ? 0 : addressing::cellCount(*m);
+    for (int j = 0; j < p && cells > 0; ++j) {
+      const std::int64_t begin = addressing::linearIndex(0, j, m->nX);
+      const std::int64_t present = std::clamp<std::int64_t>(cells - begin, 0, n);
+      std::copy_n(array + std::min(begin, cells), present, padded_.data() + addressing::linearIndex(0, j, n));
+    }
+    cells_ = padded_.data();
+    stride_ = n;
+  }
+
+  std::ptrdiff_t stride_ = 0;
+  std::vector<T> padded_;
+};
+
+/// The values of a block, as getElement reads them.
+class Values : public Reader<double> {
+ public:
+  Values(const matrix* m, int n, int p = 1) : Reader(m, m == nullptr ? nullptr : m->values, n, p, kOutside) {}
+
+  const double* data() const { return cells_; }
+  double operator[](std::ptrdiff_t k) const { return cells_[k]; }
+};
+
+/// The missing flags of a block, clear outside the container. Unlike getMissing they do not know the marker.
+class Flags : public Reader<char> {
+  static_assert(sizeof(bool) == sizeof(char));
+
+ public:
+  Flags(const matrix* m, int n, int p = 1)
+      : Reader(m, m == nullptr ? nullptr : reinterpret_cast<const char*>(m->missing), n, p, 0) {}
+
+  const char* data() const { return cells_; }
+  bool operator[](std::ptrdiff_t k) const { return cells_[k] != 0; }
+};
+
+/// A block to be written, as setElement writes it, once store() is called.
+///
+/// Where a cell is flagged or outside, or where n exceeds the container's rows so that columns overlap,
+/// writes go to a buffer and from there through the element rule, column after column. The buffer starts with
+/// what the block holds, so cells that are not written stay.
+class Target {
+ public:
+  Target(matrix* m, int n, int p = 1) : container_(m), n_(n), p_(p) {
+    if (addressing::cellCount(n, p) == 0) return;
+    if (liesInside(m, n, p) && (n <= m->nX || p == 1) && !anyFlagged()) {
+      data_ = m->values;
+      stride_ = m->nX;
+    } else {
+      const Values before(m, n, p);
+      buffer_.resize(static_cast<std::size_t>(addressing::cellCount(n, p)));
+      for (int j = 0; j < p; ++j) {
+        std::copy_n(before.data() + before.stride() * j, n, buffer_.data() + std::ptrdiff_t{n} * j);
+      }
+      data_ = buffer_.data();
+      stride_ = n;
+    }
+  }
+
+  double* data() { return data_; }
+  std::ptrdiff_t stride() const { return stride_; }
+  double& operator[](std::ptrdiff_t k) { return data_[k]; }
+
+  /// Puts the block into the container.
+  void store() {
+    if (data_ == nullptr || container_ == nullptr) return;
+    if (buffer_.empty()) {
+      container_->descValid = 0;
+      return;
+    }
+    for (int j = 0; j < p_; ++j) {
+      for (int i = 0; i < n_; ++i) {
+        container_->setElement(i, j, buffer_[static_cast<std::size_t>(i + std::ptrdiff_t{n_} * j)]);
+      }
+    }
+  }
+
+ private:
+  bool anyFlagged() const {
+    for (int j = 0; j < p_; ++j) {
+      const bool* flags = container_->missing + addressing::linearIndex(0, j, container_->nX);
+      if (std::memchr(flags, 1, static_cast<std::size_t>(n_)) != nullptr) return true;
+    }
+    return false;
+  }
+
+  matrix* container_;
+  int n_;
+  int p_;
+  double* data_ = nullptr;
+  std::ptrdiff_t stride_ = 0;
+  std::vector<double> buffer_;
+};
+
+}  // namespace block

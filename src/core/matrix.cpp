@@ -1,0 +1,134 @@
+#include "core/matrix.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "core/addressing.h"
+#include "core/storage.h"
+
+namespace {
+
+/// Cells converted between two looks for a missing one: few enough to stay in the first-level cache.
+constexpr std::int64_t kStride = 512;
+
+bool anyArrivesMissing(const double* a, std::int64_t count) {
+  int any = 0;
+  for (std::int64_t k = 0; k < count; ++k) any |= static_cast<int>(arrivesMissing(a[k]));
+  return any != 0;
+}
+
+void storeFlaggingMissing(matrix& m, const double* a, std::int64_t begin, std::int64_t end) {
+  for (std::int64_t k = begin; k < end; ++k) {
+    if (arrivesMissing(a[k])) {
+      const auto column = k / m.nX;
+      m.values[k] = 0.0;
+      m.missing[k] = true;
+      --m.counts[column];
+      m.weightcorr[column] -= 1.0;
+    } else {
+      m.values[k] = a[k];
+    }
+  }
+}
+
+/// Missing cells are rare: a stretch without one is copied as it stands.
+void convertDoubles(matrix& m, const double* a, std::int64_t count) {
+  for (std::int64_t begin = 0; begin < count; begin += kStride) {
+    const std::int64_t end = std::min(begin + kStride, count);
+    if (anyArrivesMissing(a + begin, end - begin)) {
+      storeFlaggingMissing(m, a, begin, end);
+    } else {
+      std::copy(a + begin, a + end, m.values + begin);
+    }
+  }
+}
+
+template <class Integer>
+void convertIntegers(matrix& m, const Integer* a) {
+  if (a == nullptr) {
+    std::fill_n(m.values, addressing::cellCount(m), 0.0);
+  } else {
+    std::copy_n(a, addressing::cellCount(m), m.values);
+  }
+}
+
+}  // namespace
+
+matrix::matrix(Unset, int rows, int columns)
+    : nX(rows), pX(columns), normalized(0), descValid(0), descMode(0), sumOfWeights(std::max(rows, 0)) {
+  storage::allocate(*this);
+  const storage::Sizes& built = storage::builtSizes(*this);
+  std::fill_n(weights, built.rows, 1.0);
+  std::fill_n(counts, built.columns, built.rows);
+  std::fill_n(weightcorr, built.columns, built.rows - 1.0);
+}
+
+matrix::matrix(int rows, int columns) : matrix(rows, columns, 0.0) {}
+
+matrix::matrix(int rows, int columns, int v) : matrix(rows, columns, static_cast<double>(v)) {}
+
+matrix::matrix(int rows, int columns, double v) : matrix(Unset::values, rows, columns) {
+  std::fill_n(values, addressing::cellCount(*this), v);
+}
+
+matrix::matrix(int rows, int columns, const int* a) : matrix(Unset::values, rows, columns) {
+  convertIntegers(*this, a);
+}
+
+matrix::matrix(int rows, int columns, const short* a) : matrix(Unset::values, rows, columns) {
+  convertIntegers(*this, a);
+}
+
+matrix::matrix(int rows, int columns, const double* a, bool keepAll, int srcRows, int srcCols)
+    : matrix(Unset::values, rows, columns) {
+  const std::int64_t count = a == nullptr ? 0 : addressing::cellsSupplied(rows, columns, srcRows, srcCols);
+  if (keepAll) {
+    std::copy_n(a, count, values);
+  } else {
+    convertDoubles(*this, a, count);
+  }
+  std::fill(values + count, values + addressing::cellCount(*this), 0.0);
+}
+
+matrix::matrix(int rows, const matrix* src) : matrix(Unset::values, rows, src->pX) {
+  const std::int64_t taken = std::min(addressing::cellCount(*this), addressing::cellCount(*src));
+  std::copy_n(src->values, taken, values);
+  std::fill(values + taken, values + addressing::cellCount(*this), kOutside);
+  for (std::int64_t k = 0; k < taken; ++k) missing[k] = src->missing[k] || isMarker(src->values[k]);
+
+  const int columns = std::min(storage::describedColumns(*this), storage::describedColumns(*src));
+  std::copy_n(src->counts, columns, counts);
+  std::copy_n(src->weightcorr, columns, weightcorr);
+  std::copy_n(src->weights, std::min(storage::weightedRows(*this), storage::weightedRows(*src)), weights);
+  sumOfWeights = src->sumOfWeights;
+  if (src->normalized == 1) {
+    std::copy_n(src->normu, columns, normu);
+    std::copy_n(src->norsigma, columns, norsigma);
+    normalized = 1;
+  }
+}
+
+matrix::~matrix() { storage::release(*this); }
+
+// Shallow on purpose, see the header.
+matrix& matrix::operator=(const matrix& other) = default;
+
+void matrix::weighting(const double* w) {
+  if (w == nullptr) return;
+  const int rows = storage::weightedRows(*this);
+  std::copy_n(w, rows, weights);
+  sumOfWeights = std::accumulate(w, w + rows, 0.0);
+}
+
+double matrix::getNorMu(int j) const {
+  return normalized == 1 && j >= 0 && j < storage::describedColumns(*this) ? normu[j] : kOutside;
+}
+
+double matrix::getNorSigma(int j) const {
+  return normalized == 1 && j >= 0 && j < storage::describedColumns(*this) ? norsigma[j] : kOutside;
+}
+
+double matrix::getWeightcorr(int j) const {
+  if (j < 0 || j >= storage::describedColumns(*this)) return kOutside;
+  return weightcorr[j] == 0.0 ? 1.0 : weightcorr[j];
+}

@@ -1,0 +1,43 @@
+#include "tables/copies.h"
+
+#include <algorithm>
+
+#include "core/addressing.h"
+#include "core/block.h"
+#include "missing/missing_values.h"
+
+int V_SetToValue(matrix*& v, int n, double x) { return SetVectorToValue(v, n, x); }
+
+void V_SetToValueStr(Smatrix*& v, int n, const std::u16string& s) {
+  Smatrix::matCheck(v, n, 1);
+  std::fill_n(v->cells, addressing::cellCount(*v), s);
+}
+
+void V_Duplicate(const matrix* v, int n, matrix*& out) { M_Duplicate(v, n, 1, out); }
+
+void V_Duplicate(const Smatrix* v, int n, Smatrix*& out) { M_Duplicate(v, n, 1, out); }
+
+void M_Duplicate(const matrix* a, int n, int p, matrix*& out) {
+  const block::Values source(a, n, p);
+  matrix::matCheck(out, n, p, 0.0);
+  block::Target target(out, n, p);
+  for (int j = 0; j < p; ++j) {
+    std::copy_n(source.data() + source.stride() * j, std::max(n, 0), target.data() + target.stride() * j);
+  }
+  target.store();
+}
+
+void M_Duplicate(const Smatrix* a, int n, int p, Smatrix*& out) {
+  Smatrix::matCheck(out, n, p);
+  for (int j = 0; j < p; ++j) {
+    for (int i = 0; i < n; ++i) out->setElement(i, j, a->getElement(i, j));
+  }
+}
+
+void V_Reverse(const matrix* v, int n, matrix*& out) {
+  const block::Values source(v, n);
+  matrix::matCheck(out, n, 1, 0.0);
+  block::Target target(out, n);
+  std::reverse_copy(source.data(), source.data() + std::max(n, 0), target.data());
+  target.store();
+}

@@ -1,0 +1,30 @@
+// Vectors and tables filled, copied and reversed. Vectors as in stats/vector_sums.h.
+//
+// A result is prepared by matCheck: a container of the right shape is reused, its flagged cells keeping what
+// they hold after the refill with 0.0; otherwise the result is re-pointed to a new container that belongs to
+// the caller. Values are copied, never flags.
+#pragma once
+
+#include <string>
+
+#include "core/Smatrix.h"
+#include "core/matrix.h"
+#include "platform/export.h"
+
+/// Makes v a vector of n cells x (matCheck).
+/// @return 0
+KAV_API int V_SetToValue(matrix*& v, int n, double x);
+
+/// Makes v a vector of n strings s.
+KAV_API void V_SetToValueStr(Smatrix*& v, int n, const std::u16string& s);
+
+/// out = the first n cells of v (n x 1).
+KAV_API void V_Duplicate(const matrix* v, int n, matrix*& out);
+KAV_API void V_Duplicate(const Smatrix* v, int n, Smatrix*& out);
+
+/// out = the leading n x p block of a.
+KAV_API void M_Duplicate(const matrix* a, int n, int p, matrix*& out);
+KAV_API void M_Duplicate(const Smatrix* a, int n, int p, Smatrix*& out);
+
+/// out = the first n cells of v (n x 1), last first.
+KAV_API void V_Reverse(const matrix* v, int n, matrix*& out);
