@@ -1,7 +1,9 @@
 # Cross-compiles for 64-bit Windows.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
 set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(KAV_LIBRARY_CXX_COMPILER x86_64-w64-mingw32-g++-win32)
 set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
 set(KAV_WIDL x86_64-w64-mingw32-widl)
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)

@@ -5,8 +5,8 @@
 #include <type_traits>
 
 #include "core/marker.h"
+#include "platform/exception_state.h"
 #include "platform/floating_point.h"
-#include "platform/module.h"
 #include "platform/ole.h"
 
 #if defined(_WIN32)
@@ -38,7 +38,7 @@ Result guarded(const Body& body) noexcept {
   try {
     return body();
   } catch (...) {
-    keepModuleLoaded();
-    return failureValue<Result>();
   }
+  forgetHandledException();
+  return failureValue<Result>();
 }

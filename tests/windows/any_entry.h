@@ -1,0 +1,54 @@
+// Calling whatever entry there is with arguments that fit its declared types: tests that hold for every entry
+// need no list of their own.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "macro_engine.h"
+
+/// The DLL under test.
+const macro::Module& dll();
+
+/// The entries that the DLL exports.
+std::vector<const macro::Procedure*> builtEntries();
+
+/// A plain name, for messages.
+std::string plain(std::wstring_view name);
+
+/// Arguments for one call of an entry, and the arrays behind them. Sizes are 3, every array has room for 64
+/// cells, numbers differ from cell to cell, options are on.
+class AnyArguments {
+ public:
+  explicit AnyArguments(const macro::Procedure& procedure);
+  AnyArguments(const AnyArguments&) = delete;
+  ~AnyArguments();
+
+  const std::vector<macro::Argument>& list() const { return arguments_; }
+
+  /// The arguments as a 32-bit caller pushes them, first argument first.
+  std::vector<std::uint32_t> stackWords() const;
+
+  /// Every byte of every array: numbers, flags, addresses of strings.
+  std::vector<unsigned char> arrayBytes() const;
+
+  /// The same with strings by their characters, for comparing results of two calls.
+  std::string arrayText() const;
+
+ private:
+  void add(const macro::Parameter& parameter);
+
+  static constexpr std::size_t kCells = 64;
+
+  std::vector<macro::Argument> arguments_;
+  std::deque<std::vector<double>> doubles_;
+  std::deque<std::vector<int>> ints_;
+  std::deque<std::vector<VARIANT_BOOL>> flags_;
+  std::deque<std::vector<BSTR>> strings_;
+  std::vector<BSTR> owned_;
+};
+
+/// A result's bits, a string's characters; empty for an entry without result.
+std::string resultText(const macro::Procedure& procedure, const VARIANT& result);
