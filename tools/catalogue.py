@@ -175,11 +175,9 @@ extern "C" {{
 # ---- export lists ----
 
 
-def windows_exports(entries, natives, decorated):
+def windows_exports(entries, natives, entry_name):
     lines = [f"; {DERIVED}", "EXPORTS"]
-    for e in entries:
-        if e.built:
-            lines.append(f"  {e.name} = {e.decorated()} @{e.ordinal}" if decorated else f"  {e.name} @{e.ordinal}")
+    lines += [f"  {entry_name(e)} @{e.ordinal}" for e in entries if e.built]
     lines += [f"  {name} @{ordinal}" for ordinal, name in natives]
     return "\n".join(lines) + "\n"
 
@@ -288,8 +286,11 @@ def derived_files():
     return {
         GENERATED / "entries.h": entries_header(entries),
         GENERATED / "thunks.cpp": thunks(entries),
-        GENERATED / "KAVORATB1C.win32.def": windows_exports(entries, natives, decorated=True),
-        GENERATED / "KAVORATB1C.win64.def": windows_exports(entries, natives, decorated=False),
+        # The plain name stands for the compiler's, which tells the size of the arguments: a wrong size does not link.
+        GENERATED / "KAVORATB1C.win32.def": windows_exports(entries, natives, lambda e: f"{e.name} = {e.decorated()}"),
+        # What the import library for 32-bit callers is made from.
+        GENERATED / "KAVORATB1C.win32-callers.def": windows_exports(entries, natives, Entry.decorated),
+        GENERATED / "KAVORATB1C.win64.def": windows_exports(entries, natives, lambda e: e.name),
         GENERATED / "KAVORATB1C.map": linux_exports(entries, natives),
         ROOT / "tests" / "windows" / "generated" / "catalogue.inc": tests_table(entries),
         ROOT / "docs" / "KAVORATB1C.bas": basic_module(entries),

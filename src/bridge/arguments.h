@@ -14,6 +14,7 @@
 
 #include "core/Smatrix.h"
 #include "core/addressing.h"
+#include "core/local_matrix.h"
 #include "core/matrix.h"
 #include "platform/ole_strings.h"
 
@@ -41,12 +42,12 @@ Element* required(Element* array, int n, int p) {
 class InTable {
  public:
   InTable(const double* array, int n, int p, Cells cells = Cells::FlagMissing)
-      : table_(n, p, required(array, n, p), cells == Cells::KeepAll, 0, 0) {}
+      : table_(n, p, required(array, n, p), cells == Cells::KeepAll) {}
 
   operator const matrix*() const { return &table_; }
 
  private:
-  matrix table_;
+  LocalMatrix table_;
 };
 
 /// A vector of doubles, read only.
@@ -78,7 +79,7 @@ class InIntegers {
   operator const matrix*() const { return &table_; }
 
  private:
-  matrix table_;
+  LocalMatrix table_;
 };
 
 using InInts = InIntegers<int>;

@@ -20,7 +20,7 @@ namespace block {
 
 /// Whether cell (n - 1, p - 1), and with it the whole block, lies inside the container.
 inline bool liesInside(const matrix* m, int n, int p) {
-  return m != nullptr && addressing::linearIndex(n - 1, p - 1, m->nX) < addressing::cellCount(*m);
+  return m != nullptr && addressing::isInside(*m, addressing::linearIndex(n - 1, p - 1, m->nX));
 }
 
 /// The cells of one array of a container, with a value for those outside.

@@ -1,5 +1,7 @@
 #include "core/matrix.h"
 
+#include <emmintrin.h>
+
 #include <algorithm>
 #include <numeric>
 
@@ -8,13 +10,28 @@
 
 namespace {
 
+constexpr matrix::Room kNoRoom{nullptr, 0};
+
 /// Cells converted between two looks for a missing one: few enough to stay in the first-level cache.
 constexpr std::int64_t kStride = 512;
 
-bool anyArrivesMissing(const double* a, std::int64_t count) {
-  int any = 0;
-  for (std::int64_t k = 0; k < count; ++k) any |= static_cast<int>(arrivesMissing(a[k]));
-  return any != 0;
+/// Copies count cells as they stand; false when one of them is missing.
+bool copyUnlessMissing(const double* a, std::int64_t count, double* values) {
+  const __m128d threshold = _mm_set1_pd(kMissingOnArrival);
+  __m128d present = _mm_castsi128_pd(_mm_set1_epi32(-1));
+  std::int64_t k = 0;
+  for (; k + 2 <= count; k += 2) {
+    const __m128d pair = _mm_loadu_pd(a + k);
+    _mm_storeu_pd(values + k, pair);
+    // Not greater holds for NaN as well.
+    present = _mm_and_pd(present, _mm_cmpgt_pd(pair, threshold));
+  }
+  bool allPresent = _mm_movemask_pd(present) == 3;
+  for (; k < count; ++k) {
+    values[k] = a[k];
+    allPresent = allPresent && !arrivesMissing(a[k]);
+  }
+  return allPresent;
 }
 
 void storeFlaggingMissing(matrix& m, const double* a, std::int64_t begin, std::int64_t end) {
@@ -35,11 +52,7 @@ void storeFlaggingMissing(matrix& m, const double* a, std::int64_t begin, std::i
 void convertDoubles(matrix& m, const double* a, std::int64_t count) {
   for (std::int64_t begin = 0; begin < count; begin += kStride) {
     const std::int64_t end = std::min(begin + kStride, count);
-    if (anyArrivesMissing(a + begin, end - begin)) {
-      storeFlaggingMissing(m, a, begin, end);
-    } else {
-      std::copy(a + begin, a + end, m.values + begin);
-    }
+    if (!copyUnlessMissing(a + begin, end - begin, m.values + begin)) storeFlaggingMissing(m, a, begin, end);
   }
 }
 
@@ -54,9 +67,9 @@ void convertIntegers(matrix& m, const Integer* a) {
 
 }  // namespace
 
-matrix::matrix(Unset, int rows, int columns)
+matrix::matrix(Room room, int rows, int columns)
     : nX(rows), pX(columns), normalized(0), descValid(0), descMode(0), sumOfWeights(std::max(rows, 0)) {
-  storage::allocate(*this);
+  storage::allocate(*this, room);
   const storage::Sizes& built = storage::builtSizes(*this);
   std::fill_n(weights, built.rows, 1.0);
   std::fill_n(counts, built.columns, built.rows);
@@ -67,20 +80,27 @@ matrix::matrix(int rows, int columns) : matrix(rows, columns, 0.0) {}
 
 matrix::matrix(int rows, int columns, int v) : matrix(rows, columns, static_cast<double>(v)) {}
 
-matrix::matrix(int rows, int columns, double v) : matrix(Unset::values, rows, columns) {
+matrix::matrix(int rows, int columns, double v) : matrix(kNoRoom, rows, columns) {
   std::fill_n(values, addressing::cellCount(*this), v);
 }
 
-matrix::matrix(int rows, int columns, const int* a) : matrix(Unset::values, rows, columns) {
-  convertIntegers(*this, a);
-}
+matrix::matrix(int rows, int columns, const int* a) : matrix(kNoRoom, rows, columns, a) {}
 
-matrix::matrix(int rows, int columns, const short* a) : matrix(Unset::values, rows, columns) {
-  convertIntegers(*this, a);
-}
+matrix::matrix(int rows, int columns, const short* a) : matrix(kNoRoom, rows, columns, a) {}
 
 matrix::matrix(int rows, int columns, const double* a, bool keepAll, int srcRows, int srcCols)
-    : matrix(Unset::values, rows, columns) {
+    : matrix(kNoRoom, rows, columns, a, keepAll, srcRows, srcCols) {}
+
+matrix::matrix(Room room, int rows, int columns, const int* a) : matrix(room, rows, columns) {
+  convertIntegers(*this, a);
+}
+
+matrix::matrix(Room room, int rows, int columns, const short* a) : matrix(room, rows, columns) {
+  convertIntegers(*this, a);
+}
+
+matrix::matrix(Room room, int rows, int columns, const double* a, bool keepAll, int srcRows, int srcCols)
+    : matrix(room, rows, columns) {
   const std::int64_t count = a == nullptr ? 0 : addressing::cellsSupplied(rows, columns, srcRows, srcCols);
   if (keepAll) {
     std::copy_n(a, count, values);
@@ -90,7 +110,7 @@ matrix::matrix(int rows, int columns, const double* a, bool keepAll, int srcRows
   std::fill(values + count, values + addressing::cellCount(*this), 0.0);
 }
 
-matrix::matrix(int rows, const matrix* src) : matrix(Unset::values, rows, src->pX) {
+matrix::matrix(int rows, const matrix* src) : matrix(kNoRoom, rows, src->pX) {
   const std::int64_t taken = std::min(addressing::cellCount(*this), addressing::cellCount(*src));
   std::copy_n(src->values, taken, values);
   std::fill(values + taken, values + addressing::cellCount(*this), kOutside);

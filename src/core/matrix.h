@@ -2,6 +2,8 @@
 // weight for every row, and counts and cached statistics for every column.
 #pragma once
 
+#include <cstddef>
+
 #include "core/marker.h"
 #include "platform/export.h"
 
@@ -167,9 +169,19 @@ class KAV_API matrix {
   /// Debug dump to standard output.
   void print() const;
 
- private:
-  enum class Unset { values };
+  /// Memory for the arrays of a small container, aligned as the allocator aligns; outlives the container.
+  struct Room {
+    void* memory;
+    std::size_t bytes;
+  };
 
+ protected:
+  // The forms behind the public constructors; the arrays go into room where they fit.
+  matrix(Room room, int rows, int columns, const double* a, bool keepAll, int srcRows, int srcCols);
+  matrix(Room room, int rows, int columns, const int* a);
+  matrix(Room room, int rows, int columns, const short* a);
+
+ private:
   /// Everything but the values.
-  matrix(Unset, int rows, int columns);
+  matrix(Room room, int rows, int columns);
 };

@@ -34,10 +34,11 @@ T* take(char*& at, std::int64_t count) {
 
 }  // namespace
 
-void allocate(matrix& m) {
-  const Sizes sizes{std::max(m.nX, 0), std::max(m.pX, 0)};
+void allocate(matrix& m, matrix::Room room) {
+  Sizes sizes{std::max(m.nX, 0), std::max(m.pX, 0), false};
   const std::size_t bytes = blockSize(sizes);
-  auto* block = static_cast<char*>(std::malloc(bytes));
+  sizes.borrowed = bytes <= room.bytes;
+  auto* block = static_cast<char*>(sizes.borrowed ? room.memory : std::malloc(bytes));
   if (block == nullptr) throw std::bad_alloc();
   new (block) Sizes(sizes);
 
@@ -55,6 +56,8 @@ void allocate(matrix& m) {
   std::memset(zeroed, 0, static_cast<std::size_t>(block + bytes - zeroed));
 }
 
-void release(matrix& m) noexcept { std::free(reinterpret_cast<char*>(m.values) - kSizesField); }
+void release(matrix& m) noexcept {
+  if (!builtSizes(m).borrowed) std::free(reinterpret_cast<char*>(m.values) - kSizesField);
+}
 
 }  // namespace storage

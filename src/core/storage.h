@@ -1,4 +1,4 @@
-// The memory behind a matrix: one allocation for its nine arrays. Internal.
+// The memory behind a matrix: one block for its nine arrays. Internal.
 //
 //     [sizes | values | weights | normu norsigma descmu descsigma weightcorr | counts | missing]
 //
@@ -21,6 +21,7 @@ namespace storage {
 struct Sizes {
   int rows;
   int columns;
+  bool borrowed;  ///< the block is the maker's, not the allocator's
 
   std::int64_t cells() const { return addressing::cellCount(rows, columns); }
 };
@@ -29,9 +30,10 @@ struct Sizes {
 inline constexpr std::size_t kSizesField = 16;
 static_assert(sizeof(Sizes) <= kSizesField && kSizesField % alignof(std::max_align_t) == 0);
 
-/// Points m's arrays into a new block for Sizes of m.nX and m.pX. Flags are clear, column arrays 0; values
-/// and weights are not set. Throws std::bad_alloc and leaves m as it was.
-void allocate(matrix& m);
+/// Points m's arrays into a block for Sizes of m.nX and m.pX: into room where that is large enough, else into
+/// a new one. Flags are clear, column arrays 0; values and weights are not set. Throws std::bad_alloc and
+/// leaves m as it was.
+void allocate(matrix& m, matrix::Room room);
 
 void release(matrix& m) noexcept;
 

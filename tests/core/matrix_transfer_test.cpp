@@ -4,7 +4,6 @@
 
 #include <climits>
 #include <limits>
-#include <memory>
 
 #include "core/contents.h"
 
@@ -36,19 +35,6 @@ TEST(MatrixMatCheck, RefillsATargetThatFits) {
   EXPECT_EQ(flagsOf(m), "100000");
   EXPECT_THAT((std::vector{m.counts[0], m.normalized, m.descValid}), ElementsAre(2, 1, 1));
   EXPECT_EQ(m.weightcorr[0], 1.0);
-}
-
-TEST(MatrixMatCheck, MakesANewContainerOtherwise) {
-  matrix other(3, 2, 6.1);
-  auto* const neverSet = reinterpret_cast<matrix*>(static_cast<std::uintptr_t>(0xCCCCCCCCCCCCCCCCu));
-  for (matrix* before : {static_cast<matrix*>(nullptr), neverSet, &other}) {
-    matrix* target = before;
-    matrix::matCheck(target, 2, 3, 2.385);
-    ASSERT_NE(target, before);
-    const std::unique_ptr<matrix> made(target);
-    EXPECT_TRUE(holds(*made, 2, 3, std::vector<double>(6, 2.385)));
-  }
-  EXPECT_TRUE(holds(other, 3, 2, std::vector<double>(6, 6.1)));
 }
 
 TEST(MatrixCopyMatTo, WritesFlaggedCellsAsTheMarkerOrRawWithTheSizes) {
