@@ -1,0 +1,15 @@
+// A native program: the weighted mean of a column with a missing cell.
+
+#include <cstdio>
+
+#include "core/matrix.h"
+#include "stats/vector_sums.h"
+
+int main() {
+  const double prices[] = {12.5, kMissing, 11.0, 14.25};
+  const double quantities[] = {3.0, 1.0, 2.0, 4.0};
+  const short excluded[4] = {};
+  const matrix x(4, 1, prices, false, 0, 0);  // the missing cell is flagged
+  const matrix w(4, 1, quantities, false, 0, 0);
+  std::printf("mean price %.4f, %d of %d prices known\n", V_Mean(&x, 4, excluded, &w), x.counts[0], x.nX);
+}
