@@ -15,13 +15,14 @@ class LocalRoom {
   alignas(16) std::byte memory_[2048];
 };
 
-/// A matrix whose arrays lie inside the object when they are small: a macro calls with ten rows as often as
-/// with a million, and the allocator is most of the cost of such a call. For automatic variables; neither
-/// assigned nor handed on.
+/// A matrix, read only, that a call makes from a macro's array. Macros call with ten rows as often as with a
+/// million. Of a small one the allocator would be most of the cost: its arrays lie inside the object. Of a
+/// large one the copy and its fresh pages would be: the macro's memory serves as values where no cell is
+/// missing or all are kept, and the row weights, which workers take as an argument, are left out.
 class LocalMatrix : private LocalRoom, public matrix {
  public:
   LocalMatrix(int rows, int columns, const double* a, bool keepAll)
-      : matrix(room(), rows, columns, a, keepAll, 0, 0) {}
+      : matrix(room(), rows, columns, a, keepAll) {}
   LocalMatrix(int rows, int columns, const int* a) : matrix(room(), rows, columns, a) {}
   LocalMatrix(int rows, int columns, const short* a) : matrix(room(), rows, columns, a) {}
   LocalMatrix(const LocalMatrix&) = delete;

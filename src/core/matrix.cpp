@@ -56,6 +56,38 @@ void convertDoubles(matrix& m, const double* a, std::int64_t count) {
   }
 }
 
+/// The first count cells of a new container from a, the others 0.0.
+void store(matrix& m, const double* a, std::int64_t count, bool keepAll) {
+  if (keepAll) {
+    std::copy_n(a, count, m.values);
+  } else {
+    convertDoubles(m, a, count);
+  }
+  std::fill(m.values + count, m.values + addressing::cellCount(m), 0.0);
+}
+
+/// Cells up to which copying costs less than finding out whether it can be avoided.
+constexpr std::int64_t kFew = 64;
+
+/// Cells beyond which a size may be a mistake: nothing of the array is read before memory for a copy has been
+/// had.
+constexpr std::int64_t kMany = std::int64_t{1} << 24;
+
+bool noneArrivesMissing(const double* a, std::int64_t count) {
+  const __m128d threshold = _mm_set1_pd(kMissingOnArrival);
+  __m128d present = _mm_castsi128_pd(_mm_set1_epi32(-1));
+  std::int64_t k = 0;
+  for (; k + 2 <= count; k += 2) present = _mm_and_pd(present, _mm_cmpgt_pd(_mm_loadu_pd(a + k), threshold));
+  return _mm_movemask_pd(present) == 3 && std::none_of(a + k, a + count, arrivesMissing);
+}
+
+/// The array itself when its cells can serve as they stand, else null.
+double* usableInPlace(const double* a, std::int64_t count, bool keepAll) {
+  const bool asItStands =
+      a != nullptr && count > kFew && count <= kMany && (keepAll || noneArrivesMissing(a, count));
+  return asItStands ? const_cast<double*>(a) : nullptr;
+}
+
 template <class Integer>
 void convertIntegers(matrix& m, const Integer* a) {
   if (a == nullptr) {
@@ -67,13 +99,13 @@ void convertIntegers(matrix& m, const Integer* a) {
 
 }  // namespace
 
-matrix::matrix(Room room, int rows, int columns)
+matrix::matrix(Room room, int rows, int columns, double* elsewhere)
     : nX(rows), pX(columns), normalized(0), descValid(0), descMode(0), sumOfWeights(std::max(rows, 0)) {
-  storage::allocate(*this, room);
+  storage::allocate(*this, room, elsewhere);
   const storage::Sizes& built = storage::builtSizes(*this);
   std::fill_n(weights, built.rows, 1.0);
-  std::fill_n(counts, built.columns, built.rows);
-  std::fill_n(weightcorr, built.columns, built.rows - 1.0);
+  std::fill_n(counts, built.columns, std::max(rows, 0));
+  std::fill_n(weightcorr, built.columns, std::max(rows, 0) - 1.0);
 }
 
 matrix::matrix(int rows, int columns) : matrix(rows, columns, 0.0) {}
@@ -89,7 +121,9 @@ matrix::matrix(int rows, int columns, const int* a) : matrix(kNoRoom, rows, colu
 matrix::matrix(int rows, int columns, const short* a) : matrix(kNoRoom, rows, columns, a) {}
 
 matrix::matrix(int rows, int columns, const double* a, bool keepAll, int srcRows, int srcCols)
-    : matrix(kNoRoom, rows, columns, a, keepAll, srcRows, srcCols) {}
+    : matrix(kNoRoom, rows, columns) {
+  store(*this, a, a == nullptr ? 0 : addressing::cellsSupplied(rows, columns, srcRows, srcCols), keepAll);
+}
 
 matrix::matrix(Room room, int rows, int columns, const int* a) : matrix(room, rows, columns) {
   convertIntegers(*this, a);
@@ -99,15 +133,9 @@ matrix::matrix(Room room, int rows, int columns, const short* a) : matrix(room, 
   convertIntegers(*this, a);
 }
 
-matrix::matrix(Room room, int rows, int columns, const double* a, bool keepAll, int srcRows, int srcCols)
-    : matrix(room, rows, columns) {
-  const std::int64_t count = a == nullptr ? 0 : addressing::cellsSupplied(rows, columns, srcRows, srcCols);
-  if (keepAll) {
-    std::copy_n(a, count, values);
-  } else {
-    convertDoubles(*this, a, count);
-  }
-  std::fill(values + count, values + addressing::cellCount(*this), 0.0);
+matrix::matrix(Room room, int rows, int columns, const double* a, bool keepAll)
+    : matrix(room, rows, columns, usableInPlace(a, addressing::cellCount(rows, columns), keepAll)) {
+  if (values != a) store(*this, a, a == nullptr ? 0 : addressing::cellCount(*this), keepAll);
 }
 
 matrix::matrix(int rows, const matrix* src) : matrix(kNoRoom, rows, src->pX) {

@@ -176,12 +176,16 @@ class KAV_API matrix {
   };
 
  protected:
-  // The forms behind the public constructors; the arrays go into room where they fit.
-  matrix(Room room, int rows, int columns, const double* a, bool keepAll, int srcRows, int srcCols);
+  // For containers that live as long as one call: the arrays go into room where they fit.
+
   matrix(Room room, int rows, int columns, const int* a);
   matrix(Room room, int rows, int columns, const short* a);
 
+  /// Read only. The values may be a's own memory, where nothing in it has to be changed; there are no row
+  /// weights then.
+  matrix(Room room, int rows, int columns, const double* a, bool keepAll);
+
  private:
-  /// Everything but the values.
-  matrix(Room room, int rows, int columns);
+  /// Everything but the values, or with values that lie elsewhere.
+  matrix(Room room, int rows, int columns, double* elsewhere = nullptr);
 };

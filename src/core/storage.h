@@ -1,10 +1,10 @@
 // The memory behind a matrix: one block for its nine arrays. Internal.
 //
-//     [sizes | values | weights | normu norsigma descmu descsigma weightcorr | counts | missing]
+//     [sizes | weights | values | normu norsigma descmu descsigma weightcorr | counts | missing]
 //
-// One allocation instead of nine makes a small container five times as cheap, and leaves values where the
-// destructor finds the block again even after a shallow assignment. The sizes it was made with stand in
-// front, because nX and pX are changed later by members that give a container another shape.
+// One allocation instead of nine makes a small container five times as cheap. The weights lead back to the
+// block, also after a shallow assignment. The sizes it was made with stand in front, because nX and pX are
+// changed later by members that give a container another shape.
 #pragma once
 
 #include <algorithm>
@@ -26,19 +26,23 @@ struct Sizes {
   std::int64_t cells() const { return addressing::cellCount(rows, columns); }
 };
 
-/// Room for Sizes that keeps the values aligned as the allocator aligns.
+/// Room for Sizes that keeps what follows aligned as the allocator aligns.
 inline constexpr std::size_t kSizesField = 16;
 static_assert(sizeof(Sizes) <= kSizesField && kSizesField % alignof(std::max_align_t) == 0);
 
 /// Points m's arrays into a block for Sizes of m.nX and m.pX: into room where that is large enough, else into
 /// a new one. Flags are clear, column arrays 0; values and weights are not set. Throws std::bad_alloc and
 /// leaves m as it was.
-void allocate(matrix& m, matrix::Room room);
+///
+/// @param values  null, or m's values: then they stay where they are, and m, which cannot outlive them, does
+/// without row
+///                weights; no row counts as built
+void allocate(matrix& m, matrix::Room room, double* values);
 
 void release(matrix& m) noexcept;
 
 inline const Sizes& builtSizes(const matrix& m) {
-  return *reinterpret_cast<const Sizes*>(reinterpret_cast<const char*>(m.values) - kSizesField);
+  return *reinterpret_cast<const Sizes*>(reinterpret_cast<const char*>(m.weights) - kSizesField);
 }
 
 /// Rows that have a weight, and columns that have counts and statistics: after a change of shape there may be

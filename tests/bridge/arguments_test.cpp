@@ -3,6 +3,8 @@
 #include "bridge/arguments.h"
 
 #include <climits>
+#include <cmath>
+#include <string>
 #include <vector>
 
 #include "support/bits.h"
@@ -42,6 +44,32 @@ TEST(Arguments, DoublesAreFlaggedOrKept) {
   EXPECT_EQ(k->values[2], -1.7E+306);
   EXPECT_EQ(f->getNbrCols(), 2);
   EXPECT_EQ(static_cast<const matrix*>(InVector(kArray, 4))->getNbrLines(), 4);
+}
+
+// Large arrays may serve in place of a copy; a worker sees no difference.
+TEST(Arguments, LargeArraysAreSeenAsSmallOnes) {
+  for (const int n : {63, 64, 65, 66, 129, 1000, 5001}) {
+    for (const int hole : {-1, 0, n / 2, n - 1}) {
+      SCOPED_TRACE("n = " + std::to_string(n) + ", missing " + std::to_string(hole));
+      std::vector<double> array(static_cast<std::size_t>(n));
+      for (int k = 0; k < n; ++k) array[static_cast<std::size_t>(k)] = 2.385 + k;
+      if (hole >= 0) array[static_cast<std::size_t>(hole)] = hole == 0 ? std::nan("") : kMissing;
+      const std::vector<double> before = array;
+      for (const Cells cells : {Cells::FlagMissing, Cells::KeepAll}) {
+        const InVector seen(array.data(), n, cells);
+        const matrix* const m = seen;
+        const matrix expected(n, 1, array.data(), cells == Cells::KeepAll, 0, 0);
+        for (int k = -1; k <= n; ++k) {
+          ASSERT_TRUE(bits::equal(m->getElement(k), expected.getElement(k))) << k;
+          ASSERT_EQ(m->getMissing(k), expected.getMissing(k)) << k;
+        }
+        EXPECT_EQ(m->counts[0], expected.counts[0]);
+        EXPECT_EQ(m->getWeightcorr(0), expected.getWeightcorr(0));
+        EXPECT_EQ(m->sumOfWeights, expected.sumOfWeights);
+      }
+      EXPECT_TRUE(bits::equal(array, before));
+    }
+  }
 }
 
 TEST(Arguments, IntegersAndFlagsAreNeverMissing) {

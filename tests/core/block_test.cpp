@@ -73,20 +73,26 @@ TEST(BlockFlags, AreWhatGetMissingReads) {
   EXPECT_FALSE(block::Flags(&marker, 2)[1]);
 }
 
-/// Writes random values into the block of m through a Target and into its copy through setElement, everywhere
-/// or, with some, only into the first cell and about every other one; tells whether the two end alike.
+/// Writes random values into the block of m through a Target, in descending order, and into a copy of m
+/// through setElement, column after column; everywhere or, with some, only into the first cell and about half
+/// of the others. Tells whether the two end alike.
 testing::AssertionResult writesAlike(matrix& m, int n, int p, Random& random, bool some) {
   matrix twin(m.nX, &m);
   twin.descValid = m.descValid;
   block::Target target(&m, n, p);
+  struct Write {
+    int i, j;
+    double x;
+  };
+  std::vector<Write> writes;
   for (int j = 0; j < p; ++j) {
     for (int i = 0; i < n; ++i) {
-      if (some && i + j > 0 && random.below(2) == 0) continue;
-      const double x = random.uniform(-9.0, 9.0);
-      target[i + target.stride() * j] = x;
-      twin.setElement(i, j, x);
+      if (!some || i + j == 0 || random.below(2) == 0) writes.push_back({i, j, random.uniform(-9.0, 9.0)});
     }
   }
+  for (const Write& w : writes) twin.setElement(w.i, w.j, w.x);
+  std::reverse(writes.begin(), writes.end());
+  for (const Write& w : writes) target[w.i + target.stride() * w.j] = w.x;
   target.store();
   if (m.descValid != twin.descValid) return testing::AssertionFailure() << "descValid " << m.descValid;
   if (flagsOf(m) != flagsOf(twin)) return testing::AssertionFailure() << "flags changed";
@@ -99,8 +105,7 @@ TEST(BlockTarget, StoresAWholeBlockAsSetElementDoes) {
 
 TEST(BlockTarget, KeepsCellsThatAreNotWritten) {
   forManyShapes([](matrix& m, int n, int p, Random& random) {
-    // Where columns overlap only a whole block has one meaning.
-    const bool overlap = n > m.nX && p > 1;
+    const bool overlap = n > m.nX && p > 1;  // of columns: there only a whole block has one meaning
     return writesAlike(m, n, p, random, !overlap);
   });
 }

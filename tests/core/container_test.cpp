@@ -82,7 +82,7 @@ TYPED_TEST(Container, LooksAtTheLinearIndexOnly) {
   for (int k = 0; k < 6; ++k) EXPECT_EQ(TypeParam::cellsOf(*m)[k], cell(now[k])) << k;
 }
 
-// The first four lie on a cell where index arithmetic is done in 32 bits, counting from 0 or from 1.
+// The first five lie on a cell where index arithmetic is done in 32 bits, counting from 0 or from 1.
 TYPED_TEST(Container, ReadsAFixedCellAndWritesNothingOutside) {
   const auto m = TypeParam::make(65536, 1, 65536, 0, 0);
   const auto x = TypeParam::cell(77);
@@ -90,9 +90,9 @@ TYPED_TEST(Container, ReadsAFixedCellAndWritesNothingOutside) {
                              {1, 65537},
                              {3, INT_MIN},
                              {3, INT_MIN + 1},
+                             {INT_MIN, -32766},
                              {0, 1},
                              {-1, 0},
-                             {INT_MIN, 1},
                              {INT_MAX, 0},
                              {INT_MIN, INT_MIN},
                              {INT_MAX, INT_MAX}}) {
@@ -136,8 +136,9 @@ TYPED_TEST(Container, OfASizeThatNoMemoryHoldsThrows) {
 TYPED_TEST(Container, IsMadeAnewByMatCheckWhereTheTargetDoesNotFit) {
   using Table = typename TypeParam::Table;
   const auto other = TypeParam::make(2, 3, 6, 0, 0);
+  const auto larger = TypeParam::make(4, 2, 8, 0, 0);
   auto* const neverSet = reinterpret_cast<Table*>(static_cast<std::uintptr_t>(0xCCCCCCCCCCCCCCCCu));
-  for (Table* before : {static_cast<Table*>(nullptr), neverSet, other.get()}) {
+  for (Table* before : {static_cast<Table*>(nullptr), neverSet, other.get(), larger.get()}) {
     Table* target = before;
     TypeParam::matCheck(target, 3, 2);
     ASSERT_NE(target, before);

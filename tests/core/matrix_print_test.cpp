@@ -69,6 +69,16 @@ TEST(MatrixPrint, ShowsATableWithoutCells) {
       "******\nMatrix  view: nX 2 pX -3 \n line 0 \n line 1  sumOfWeights = 2.000000  \n******\n******\n");
 }
 
+TEST(MatrixPrint, ShowsNoStatisticsForColumnsThatWereNotBuilt) {
+  matrix m(2, 1, 7.25);
+  m.transposeTo(&m);
+  m.normalized = m.descValid = 1;
+  EXPECT_EQ(dumpOf(m),
+            "******\nMatrix  view: nX 1 pX 2 \n line 0 \t 7.250000\t 7.250000 sumOfWeights = 2.000000  \n"
+            "\t i = 0 weightcorr = 1.000000 ******\n\n var n 0 normu = 0.000000 norsigma = 0.000000 "
+            "\n var n 0 descmu = 0.000000 descsigma = 0.000000 ******\n");
+}
+
 TEST(SmatrixPrint, ShowsTheBytesOfACellUpToTheFirstZero) {
   Smatrix m(2, 2);
   m.setElement(0, u"left");

@@ -93,6 +93,8 @@ TEST(MatrixCopyMatTo, GivesAContainerTheShapeAndSparesItsFlaggedCells) {
   EXPECT_EQ(dest.descValid, 0);
   EXPECT_EQ(dest.values[6], 107.25);
   EXPECT_EQ(dest.sumOfWeights, 9.5);
+  Table(4, 2, 0.385).copyMatTo(&dest);  // as large as dest was built
+  EXPECT_TRUE(holds(dest, 4, 2, {0.385, 1.385, 2.385, 104.25, 4.385, 5.385, 6.385, 7.385}));
 }
 
 TEST(MatrixShape, StaysWhereADestinationHasTooFewCells) {
@@ -183,16 +185,16 @@ TEST(MatrixTransferLine, HandsOutMinusOneForColumnsItLacks) {
 }
 
 TEST(MatrixRowsAndColumns, ChangeNothingOutside) {
-  Table source(2, 3, 0.385);
+  Table source(5, 3, 0.385);
   Table m(3, 2, 101.25);
   for (const auto& [from, to] : {std::pair{-1, 0}, {0, -1}, {3, 0}, {0, 2}, {INT_MIN, 1}, {1, INT_MAX}}) {
     m.copyCol(&source, from, to);
   }
-  for (const auto& [from, to] : {std::pair{-1, 0}, {0, -1}, {2, 0}, {0, 3}, {INT_MAX, 1}, {1, INT_MIN}}) {
+  for (const auto& [from, to] : {std::pair{-1, 0}, {0, -1}, {5, 0}, {0, 3}, {INT_MAX, 1}, {1, INT_MIN}}) {
     m.copyLine(&source, from, to);
     m.transferLineFrom(&source, from, to);
   }
-  EXPECT_TRUE(holds(source, 2, 3, cellsOf(Table(2, 3, 0.385))));
+  EXPECT_TRUE(holds(source, 5, 3, cellsOf(Table(5, 3, 0.385))));
   EXPECT_TRUE(holds(m, 3, 2, cellsOf(Table(3, 2, 101.25))));
   EXPECT_EQ(source.descValid + m.descValid, 2);
 }
