@@ -79,6 +79,7 @@ void print() {
   std::printf("| work | contestant | median | ratio to the library |\n|---|---|---|---|\n");
   for (const Work& work : works()) {
     const double own = work.contestants.front().median;
+    if (own == 0.0) continue;  // filtered out
     for (const Contestant& contestant : work.contestants) {
       const bool first = &contestant == &work.contestants.front();
       std::printf("| %s | %s | %s | ", first ? work.name.c_str() : "", contestant.name.c_str(),
