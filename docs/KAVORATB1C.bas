@@ -6,6 +6,7 @@ Attribute VB_Name = "KAVORATB1C"
 ' Strings: Declare statements would convert them, so they go as pointers: StrPtr(s) for one string,
 ' VarPtr(labels(1)) for an array. A string result is turned into a string by TakeString.
 ' String arrays that receive results must be fresh: what a slot held is not freed.
+' Flags and weights that an entry lets be null cannot be left out here; pass flags of False and weights of 1.
 Option Explicit
 
 #If VBA7 Then

@@ -14,9 +14,9 @@ Entries listed in src/bridge/unbuilt.txt have no worker yet: the type library de
 import re
 import subprocess
 import sys
-import textwrap
 from dataclasses import dataclass, field
 from pathlib import Path
+from textwrap import TextWrapper
 
 ROOT = Path(__file__).resolve().parent.parent
 BRIDGE = ROOT / "src" / "bridge"
@@ -116,6 +116,12 @@ def read_natives():
     return [(int(ordinal), name) for ordinal, name in natives]
 
 
+def wrap(text, width, prefix=""):
+    """Lines of a text, broken at blanks only."""
+    return TextWrapper(width, initial_indent=prefix, subsequent_indent=prefix, break_on_hyphens=False,
+                       break_long_words=False).wrap(text)
+
+
 # ---- C++ ----
 
 
@@ -124,13 +130,13 @@ def signature(start, parameters, end):
     line = f"{start}({', '.join(parameters)}){end}"
     if len(line) <= 110:
         return line
-    body = textwrap.wrap(", ".join(p.replace(" ", "~") for p in parameters), 104)
+    body = wrap(", ".join(p.replace(" ", "~") for p in parameters), 104)
     return f"{start}(\n" + "\n".join("    " + part.replace("~", " ") for part in body) + f"){end}"
 
 
 def entries_header(entries):
     prototypes = "\n\n".join(
-        "\n".join(textwrap.wrap(e.help, 106, initial_indent="/// ", subsequent_indent="/// "))
+        "\n".join(wrap(e.help, 106, "/// "))
         + "\n"
         + signature(f"{e.result} {e.name}", [p.cpp() for p in e.parameters], ";")
         for e in entries
@@ -233,6 +239,7 @@ def basic_module(entries):
 ' Strings: Declare statements would convert them, so they go as pointers: StrPtr(s) for one string,
 ' VarPtr(labels(1)) for an array. A string result is turned into a string by TakeString.
 ' String arrays that receive results must be fresh: what a slot held is not freed.
+' Flags and weights that an entry lets be null cannot be left out here; pass flags of False and weights of 1.
 Option Explicit
 
 #If VBA7 Then
@@ -276,8 +283,8 @@ def reference(entries):
             lines += ["", f"## {group}"]
         parameters = ", ".join(f"{p.direction.replace(', ', '/')} {p.cpp()}" for p in e.parameters)
         lines += ["", f"**{e.name}** ({e.ordinal}){'' if e.built else ' - not built yet'}", ""]
-        lines += textwrap.wrap(f"`{e.result} {e.name}({parameters})`", 110)
-        lines += ["", *textwrap.wrap(e.help, 110)]
+        lines += wrap(f"`{e.result} {e.name}({parameters})`", 110)
+        lines += ["", *wrap(e.help, 110)]
     return "\n".join(lines) + "\n"
 
 

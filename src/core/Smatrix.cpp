@@ -1,8 +1,6 @@
 #include "core/Smatrix.h"
 
 #include <cstdio>
-#include <limits>
-#include <new>
 
 #include "core/addressing.h"
 #include "platform/ole_strings.h"
@@ -12,12 +10,6 @@ using addressing::linearIndex;
 using addressing::linearIndexFrom1;
 
 namespace {
-
-std::u16string* emptyStrings(std::int64_t count) {
-  constexpr std::uint64_t limit = std::numeric_limits<std::ptrdiff_t>::max() / sizeof(std::u16string);
-  if (static_cast<std::uint64_t>(count) > limit) throw std::bad_alloc();
-  return new std::u16string[static_cast<std::size_t>(count)];
-}
 
 const unsigned short* endOf(const unsigned short* text) {
   while (*text != 0) ++text;
@@ -37,7 +29,9 @@ double write(Smatrix& m, std::int64_t k, const std::u16string& s) {
 }  // namespace
 
 Smatrix::Smatrix(int rows, int columns)
-    : nX(rows), pX(columns), cells(emptyStrings(addressing::cellCount(rows, columns))) {}
+    : nX(rows),
+      pX(columns),
+      cells(new std::u16string[addressing::elementsInMemory<std::u16string>(rows, columns)]) {}
 
 Smatrix::Smatrix(int rows, int columns, const unsigned short* const* src, int srcRows, int srcCols)
     : Smatrix(rows, columns) {

@@ -3,7 +3,10 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
+#include <limits>
+#include <new>
 
 namespace addressing {
 
@@ -30,6 +33,17 @@ std::int64_t cellCount(const Container& c) {
 template <class Container>
 bool isInside(const Container& c, std::int64_t k) {
   return k >= 0 && k < cellCount(c);
+}
+
+/// Elements of a table's array as memory counts them. Throws std::bad_alloc when no memory could hold that
+/// many.
+///
+/// @tparam Element  what the array holds
+template <class Element>
+std::size_t elementsInMemory(std::int64_t rows, std::int64_t columns) {
+  const auto count = static_cast<std::uint64_t>(cellCount(rows, columns));
+  if (count > std::numeric_limits<std::ptrdiff_t>::max() / sizeof(Element)) throw std::bad_alloc();
+  return static_cast<std::size_t>(count);
 }
 
 /// Cells that an array of srcRows x srcCols supplies to a table of rows x columns; a size of 0 stands for the

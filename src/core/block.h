@@ -29,6 +29,8 @@ inline bool liesInside(const matrix* m, int n, int p) {
 template <class T>
 class Reader {
  public:
+  Reader(const Reader&) = delete;
+
   std::ptrdiff_t stride() const { return stride_; }
 
  protected:
@@ -47,7 +49,7 @@ class Reader {
 
  private:
   void pad(const matrix* m, const T* array, int n, int p, T outside) {
-    padded_.assign(static_cast<std::size_t>(addressing::cellCount(n, p)), outside);
+    padded_.assign(addressing::elementsInMemory<T>(n, p), outside);
     const std::int64_t cells = m == nullptr ? 0 : addressing::cellCount(*m);
     for (int j = 0; j < p && cells > 0; ++j) {
       const std::int64_t begin = addressing::linearIndex(0, j, m->nX);
@@ -87,7 +89,8 @@ class Flags : public Reader<char> {
 ///
 /// Where a cell is flagged or outside, or where n exceeds the container's rows so that columns overlap,
 /// writes go to a buffer and from there through the element rule, column after column. The buffer starts with
-/// what the block holds, so cells that are not written stay.
+/// what the block holds, so cells that are not written stay. Of cells that overlap the last in that order
+/// counts, written or not.
 class Target {
  public:
   Target(matrix* m, int n, int p = 1) : container_(m), n_(n), p_(p) {
@@ -97,7 +100,7 @@ class Target {
       stride_ = m->nX;
     } else {
       const Values before(m, n, p);
-      buffer_.resize(static_cast<std::size_t>(addressing::cellCount(n, p)));
+      buffer_.resize(addressing::elementsInMemory<double>(n, p));
       for (int j = 0; j < p; ++j) {
         std::copy_n(before.data() + before.stride() * j, n, buffer_.data() + std::ptrdiff_t{n} * j);
       }
@@ -105,6 +108,8 @@ class Target {
       stride_ = n;
     }
   }
+
+  Target(const Target&) = delete;
 
   double* data() { return data_; }
   std::ptrdiff_t stride() const { return stride_; }

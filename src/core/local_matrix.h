@@ -18,7 +18,8 @@ class LocalRoom {
 /// A matrix, read only, that a call makes from a macro's array. Macros call with ten rows as often as with a
 /// million. Of a small one the allocator would be most of the cost: its arrays lie inside the object. Of a
 /// large one the copy and its fresh pages would be: the macro's memory serves as values where no cell is
-/// missing or all are kept, and the row weights, which workers take as an argument, are left out.
+/// missing or all are kept, and a vector then has no row weights (null), as many doubles again: workers take
+/// the weights of a vector as an argument.
 class LocalMatrix : private LocalRoom, public matrix {
  public:
   LocalMatrix(int rows, int columns, const double* a, bool keepAll)

@@ -83,8 +83,10 @@ bool noneArrivesMissing(const double* a, std::int64_t count) {
 
 /// The array itself when its cells can serve as they stand, else null.
 double* usableInPlace(const double* a, std::int64_t count, bool keepAll) {
+  // Records of a 32-bit macro host may lie on any 4-byte boundary.
+  const bool aligned = reinterpret_cast<std::uintptr_t>(a) % alignof(double) == 0;
   const bool asItStands =
-      a != nullptr && count > kFew && count <= kMany && (keepAll || noneArrivesMissing(a, count));
+      aligned && a != nullptr && count > kFew && count <= kMany && (keepAll || noneArrivesMissing(a, count));
   return asItStands ? const_cast<double*>(a) : nullptr;
 }
 

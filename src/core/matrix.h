@@ -20,7 +20,8 @@
 /// columns beyond have no weights, counts or statistics: readers treat them as outside.
 ///
 /// Constructors throw std::bad_alloc when memory is out or no memory could hold the size; no other member of
-/// this class throws unless it says so.
+/// this class throws unless it says so. Out of the 32-bit Windows DLL no exception can be caught: it ends
+/// the process.
 class KAV_API matrix {
  public:
   // Fields, open to workers.

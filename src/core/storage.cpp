@@ -8,8 +8,6 @@ namespace storage {
 
 namespace {
 
-constexpr std::size_t kPerColumn = 5 * sizeof(double) + sizeof(int);
-
 /// Bytes of arrays added up. Throws std::bad_alloc beyond half the address space, so that pointer differences
 /// inside a block are defined.
 class Bytes {
@@ -30,8 +28,11 @@ class Bytes {
   std::size_t bytes_;
 };
 
-/// Row weights with what keeps the values behind them aligned.
-std::int64_t paddedRows(const Sizes& sizes) { return std::int64_t{sizes.rows} + sizes.rows % 2; }
+/// Four-byte counts with what keeps the doubles behind them aligned as the allocator aligns.
+std::int64_t paddedCounts(int columns) { return (std::int64_t{columns} + 3) / 4 * 4; }
+
+/// Row weights, likewise.
+std::int64_t paddedWeights(int rows) { return (std::int64_t{rows} + 1) / 2 * 2; }
 
 template <class T>
 T* take(char*& at, std::int64_t count) {
@@ -45,34 +46,37 @@ T* take(char*& at, std::int64_t count) {
 void allocate(matrix& m, matrix::Room room, double* values) {
   const bool own = values == nullptr;
   const std::int64_t cells = addressing::cellCount(m);
-  Sizes sizes{own ? std::max(m.nX, 0) : 0, std::max(m.pX, 0), false};
+  const int columns = std::max(m.pX, 0);
+  const int weightedRows = own || columns > 1 ? std::max(m.nX, 0) : 0;
   const std::size_t bytes = Bytes(kSizesField)
-                                .add(paddedRows(sizes), sizeof(double))
+                                .add(paddedCounts(columns), sizeof(int))
+                                .add(paddedWeights(weightedRows), sizeof(double))
                                 .add(own ? cells : 0, sizeof(double))
-                                .add(sizes.columns, kPerColumn)
+                                .add(columns, 5 * sizeof(double))
                                 .add(cells, sizeof(bool))
                                 .get();
-  sizes.borrowed = bytes <= room.bytes;
-  auto* block = static_cast<char*>(sizes.borrowed ? room.memory : std::malloc(bytes));
+  const bool borrowed = bytes <= room.bytes;
+  auto* block = static_cast<char*>(borrowed ? room.memory : std::malloc(bytes));
   if (block == nullptr) throw std::bad_alloc();
-  new (block) Sizes(sizes);
+  new (block) Sizes{weightedRows, columns, own, borrowed};
 
   char* at = block + kSizesField;
-  m.weights = take<double>(at, paddedRows(sizes));
+  m.counts = take<int>(at, paddedCounts(columns));
+  m.weights = take<double>(at, paddedWeights(weightedRows));
   m.values = own ? take<double>(at, cells) : values;
   char* const zeroed = at;
-  m.normu = take<double>(at, sizes.columns);
-  m.norsigma = take<double>(at, sizes.columns);
-  m.descmu = take<double>(at, sizes.columns);
-  m.descsigma = take<double>(at, sizes.columns);
-  m.weightcorr = take<double>(at, sizes.columns);
-  m.counts = take<int>(at, sizes.columns);
+  m.normu = take<double>(at, columns);
+  m.norsigma = take<double>(at, columns);
+  m.descmu = take<double>(at, columns);
+  m.descsigma = take<double>(at, columns);
+  m.weightcorr = take<double>(at, columns);
   m.missing = take<bool>(at, cells);
   std::memset(zeroed, 0, static_cast<std::size_t>(block + bytes - zeroed));
+  if (weightedRows == 0) m.weights = nullptr;
 }
 
 void release(matrix& m) noexcept {
-  if (!builtSizes(m).borrowed) std::free(reinterpret_cast<char*>(m.weights) - kSizesField);
+  if (!builtSizes(m).borrowed) std::free(reinterpret_cast<char*>(m.counts) - kSizesField);
 }
 
 }  // namespace storage

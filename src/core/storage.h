@@ -1,8 +1,8 @@
 // The memory behind a matrix: one block for its nine arrays. Internal.
 //
-//     [sizes | weights | values | normu norsigma descmu descsigma weightcorr | counts | missing]
+//     [sizes | counts | weights | values | normu norsigma descmu descsigma weightcorr | missing]
 //
-// One allocation instead of nine makes a small container five times as cheap. The weights lead back to the
+// One allocation instead of nine makes a small container five times as cheap. The counts lead back to the
 // block, also after a shallow assignment. The sizes it was made with stand in front, because nX and pX are
 // changed later by members that give a container another shape.
 #pragma once
@@ -19,11 +19,13 @@ namespace storage {
 
 /// What a container was built with; never below 0.
 struct Sizes {
-  int rows;
-  int columns;
-  bool borrowed;  ///< the block is the maker's, not the allocator's
+  int rows;        ///< that have a weight
+  int columns;     ///< that have counts and statistics
+  bool ownValues;  ///< the values lie in the block
+  bool borrowed;   ///< the block is the maker's, not the allocator's
 
-  std::int64_t cells() const { return addressing::cellCount(rows, columns); }
+  /// Cells that the container can be given a shape for.
+  std::int64_t cells() const { return ownValues ? addressing::cellCount(rows, columns) : 0; }
 };
 
 /// Room for Sizes that keeps what follows aligned as the allocator aligns.
@@ -34,15 +36,14 @@ static_assert(sizeof(Sizes) <= kSizesField && kSizesField % alignof(std::max_ali
 /// a new one. Flags are clear, column arrays 0; values and weights are not set. Throws std::bad_alloc and
 /// leaves m as it was.
 ///
-/// @param values  null, or m's values: then they stay where they are, and m, which cannot outlive them, does
-/// without row
-///                weights; no row counts as built
+/// @param values  null, or m's values: then they stay where they are, and m, which must not outlive
+///                them, has row weights only when it has several columns; those of a vector are null
 void allocate(matrix& m, matrix::Room room, double* values);
 
 void release(matrix& m) noexcept;
 
 inline const Sizes& builtSizes(const matrix& m) {
-  return *reinterpret_cast<const Sizes*>(reinterpret_cast<const char*>(m.weights) - kSizesField);
+  return *reinterpret_cast<const Sizes*>(reinterpret_cast<const char*>(m.counts) - kSizesField);
 }
 
 /// Rows that have a weight, and columns that have counts and statistics: after a change of shape there may be

@@ -39,8 +39,8 @@ struct Place {
   abi::__cxa_eh_globals state;
 };
 
-/// More than the threads that can fail at one time.
-Place places[512];
+/// More than the threads that can be failing at one time.
+Place places[4096];
 
 Place* placeOf(DWORD thread) {
   for (Place& place : places) {
@@ -81,6 +81,34 @@ void forgetHandledException() noexcept {
     return;
   place->thread.store(0);
 }
+
+/// A native caller may have caught an exception of a worker in a module of its own, where that is possible;
+/// then the place of the thread is free only once the thread ends.
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID) {
+  if (reason != DLL_THREAD_DETACH) return TRUE;
+  if (Place* const place = placeOf(GetCurrentThreadId())) {
+    place->state = {};
+    place->thread.store(0);
+  }
+  return TRUE;
+}
+
+#if defined(__i386__)
+
+// The compiler's startup code looks for a shared unwinder in the process and, when another library has loaded
+// one, hands it this module's unwind tables; the unwinder that is linked in here would then find none, and
+// the first exception would end the host. This import slot, which the linker takes before the system's, makes
+// the search come out empty. Nothing else in the module asks for modules.
+namespace {
+HMODULE WINAPI findNoModule(LPCSTR) { return nullptr; }
+}  // namespace
+
+extern "C" {
+extern HMODULE(WINAPI* moduleSearchSlot)(LPCSTR) __asm__("__imp__GetModuleHandleA@4");
+HMODULE(WINAPI* moduleSearchSlot)(LPCSTR) = &findNoModule;
+}
+
+#endif
 
 #else
 

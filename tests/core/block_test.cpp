@@ -4,8 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <functional>
 #include <limits>
+#include <new>
 #include <set>
 
 #include "core/contents.h"
@@ -145,6 +147,20 @@ TEST(Block, OfANullContainerIsOutside) {
     EXPECT_EQ(target[k], 2.385 + k);
   }
   target.store();
+}
+
+TEST(Block, SizesThatNoMemoryHoldsAreRefused) {
+  matrix m(2, 2, 2.385);
+  // Products that 32 bits would cut to 0, to a little, and that 64 bits hold only just.
+  const int sizes[][2] = {{INT_MAX, INT_MAX}, {INT_MAX, INT_MAX - 1}};
+  for (const auto& [n, p] : sizes) {
+    EXPECT_THROW(block::Values(&m, n, p), std::bad_alloc) << n << " x " << p;
+    EXPECT_THROW(block::Target(&m, n, p), std::bad_alloc) << n << " x " << p;
+  }
+  if constexpr (sizeof(void*) == 4) {
+    EXPECT_THROW(block::Values(&m, 65536, 65536), std::bad_alloc);
+    EXPECT_THROW(block::Target(&m, 65537, 65536), std::bad_alloc);
+  }
 }
 
 }  // namespace

@@ -39,7 +39,12 @@ inline std::vector<double> corpusCells(std::uint64_t seed, int count) {
   for (int k = 0; k < count; ++k) {
     const double x = random.uniform(-1.0, 1.0) * std::ldexp(1.0, random.below(60) - 30);
     const int kind = random.below(100);
-    cells.push_back(kind < 4 ? kMissing : kind < 6 ? 0.0 : kind == 6 ? -0.0 : kind == 7 ? x * 0x1p-1060 : x);
+    cells.push_back(kind < 4    ? kMissing
+                    : kind < 6  ? 0.0
+                    : kind == 6 ? -0.0
+                    : kind == 7 ? x * 0x1p-1060
+                    : kind == 8 ? -HUGE_VAL
+                                : x);
   }
   return cells;
 }

@@ -40,7 +40,10 @@ std::vector<const macro::Procedure*> builtEntries() {
 
 std::string plain(std::wstring_view name) { return std::string(name.begin(), name.end()); }
 
-AnyArguments::AnyArguments(const macro::Procedure& procedure) {
+AnyArguments::AnyArguments(const macro::Procedure& procedure, Extent extent)
+    : rows_(extent == Extent::Small ? 3 : 150),
+      cells_(extent == Extent::Small ? 64 : 512),
+      missing_(extent == Extent::Large) {
   for (const macro::Parameter& parameter : procedure.parameters) add(parameter);
 }
 
@@ -62,19 +65,21 @@ void AnyArguments::add(const macro::Parameter& parameter) {
         arguments_.emplace_back(0.385);
         break;
       }
-      doubles_.emplace_back(kCells);
-      for (std::size_t k = 0; k < kCells; ++k) {
+      doubles_.emplace_back(cells_);
+      for (std::size_t k = 0; k < cells_; ++k) {
         doubles_.back()[k] = 2.385 + 0.75 * seed + static_cast<double>((k * 7) % 11) * 0.618;
       }
+      if (missing_) doubles_.back()[5] = -1.79769313486231E+308;
       arguments_.emplace_back(doubles_.back());
       break;
     case VT_INT:
       if (!parameter.byReference) {
-        arguments_.emplace_back(3);
+        arguments_.emplace_back(sized_ ? 3 : rows_);
+        sized_ = true;
         break;
       }
-      ints_.emplace_back(kCells);
-      for (std::size_t k = 0; k < kCells; ++k) ints_.back()[k] = static_cast<int>((k * 7 + 3) % 11);
+      ints_.emplace_back(cells_);
+      for (std::size_t k = 0; k < cells_; ++k) ints_.back()[k] = static_cast<int>((k * 7 + 3) % 11);
       arguments_.emplace_back(ints_.back());
       break;
     case VT_BOOL:
@@ -82,8 +87,8 @@ void AnyArguments::add(const macro::Parameter& parameter) {
         arguments_.emplace_back(true);
         break;
       }
-      flags_.emplace_back(kCells);
-      for (std::size_t k = 0; k < kCells; ++k) flags_.back()[k] = k % 3 == 1 ? VARIANT_TRUE : VARIANT_FALSE;
+      flags_.emplace_back(cells_);
+      for (std::size_t k = 0; k < cells_; ++k) flags_.back()[k] = k % 3 == 1 ? VARIANT_TRUE : VARIANT_FALSE;
       arguments_.emplace_back(flags_.back());
       break;
     case VT_BSTR:
@@ -92,8 +97,8 @@ void AnyArguments::add(const macro::Parameter& parameter) {
         arguments_.emplace_back(owned_.back());
         break;
       }
-      strings_.emplace_back(kCells);
-      for (std::size_t k = 0; k < kCells; ++k) {
+      strings_.emplace_back(cells_);
+      for (std::size_t k = 0; k < cells_; ++k) {
         // Longer than what a string object holds without an allocation of its own.
         const std::wstring text = L"a label of some length " + std::to_wstring((k * 5) % 7);
         owned_.push_back(SysAllocString(text.c_str()));

@@ -18,11 +18,17 @@ std::vector<const macro::Procedure*> builtEntries();
 /// A plain name, for messages.
 std::string plain(std::wstring_view name);
 
-/// Arguments for one call of an entry, and the arrays behind them. Sizes are 3, every array has room for 64
-/// cells, numbers differ from cell to cell, options are on.
+/// How large the arrays of a call are.
+enum class Extent {
+  Small,  ///< sizes of 3: what an entry wraps fits into its adaptors
+  Large   ///< 150 rows, a missing cell in every array of doubles: arrays are copied to memory of their own
+};
+
+/// Arguments for one call of an entry, and the arrays behind them. The first size is the extent's, the others
+/// are 3; numbers differ from cell to cell, options are on.
 class AnyArguments {
  public:
-  explicit AnyArguments(const macro::Procedure& procedure);
+  explicit AnyArguments(const macro::Procedure& procedure, Extent extent = Extent::Small);
   AnyArguments(const AnyArguments&) = delete;
   ~AnyArguments();
 
@@ -40,8 +46,10 @@ class AnyArguments {
  private:
   void add(const macro::Parameter& parameter);
 
-  static constexpr std::size_t kCells = 64;
-
+  int rows_;
+  std::size_t cells_;
+  bool sized_ = false;
+  bool missing_;
   std::vector<macro::Argument> arguments_;
   std::deque<std::vector<double>> doubles_;
   std::deque<std::vector<int>> ints_;

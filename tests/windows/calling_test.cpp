@@ -98,7 +98,7 @@ TEST(Calling, EveryEntryRemovesItsArgumentsAndWorksOnAnyStack) {
     std::string expectedArrays;
     for (std::uint32_t misalignment : {0u, 4u, 8u, 12u}) {
       SCOPED_TRACE(plain(procedure->name) + ", stack off by " + std::to_string(misalignment));
-      const AnyArguments arguments(*procedure);
+      const AnyArguments arguments(*procedure, Extent::Large);
       Watch watch{};
       const std::uint64_t result = callEntry(*procedure, arguments, misalignment, &watch);
       EXPECT_EQ(watch.stackAtCall % 16, (16 - misalignment) % 16);

@@ -50,7 +50,7 @@ struct Outcome {
 };
 
 Outcome callAs(const ControlState& host, const macro::Procedure& procedure) {
-  const AnyArguments arguments(procedure);
+  const AnyArguments arguments(procedure, Extent::Large);
   // Nothing that computes may stand between the two changes of state: the tests' own code is compiled for the
   // default.
   host.set();

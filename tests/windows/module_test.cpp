@@ -120,3 +120,16 @@ TEST(Module, GivesEverythingBackWhenUnloaded) {
     EXPECT_LT(privateBytes(), bytes + (4u << 20));
   }
 }
+
+#if defined(__i386__)
+
+TEST(Module, FailsAsToldBesideASharedUnwinder) {
+  ASSERT_FALSE(builtEntries().empty());
+  const HMODULE unwinder = LoadLibraryW(L"libgcc_s_dw2-1.dll");
+  ASSERT_NE(unwinder, nullptr);
+  const ModuleCopy copy;
+  cycle(true);
+  FreeLibrary(unwinder);
+}
+
+#endif
