@@ -15,23 +15,12 @@ constexpr matrix::Room kNoRoom{nullptr, 0};
 /// Cells converted between two looks for a missing one: few enough to stay in the first-level cache.
 constexpr std::int64_t kStride = 512;
 
-/// Copies count cells as they stand; false when one of them is missing.
-bool copyUnlessMissing(const double* a, std::int64_t count, double* values) {
+bool noneArrivesMissing(const double* a, std::int64_t count) {
   const __m128d threshold = _mm_set1_pd(kMissingOnArrival);
   __m128d present = _mm_castsi128_pd(_mm_set1_epi32(-1));
   std::int64_t k = 0;
-  for (; k + 2 <= count; k += 2) {
-    const __m128d pair = _mm_loadu_pd(a + k);
-    _mm_storeu_pd(values + k, pair);
-    // Not greater holds for NaN as well.
-    present = _mm_and_pd(present, _mm_cmpgt_pd(pair, threshold));
-  }
-  bool allPresent = _mm_movemask_pd(present) == 3;
-  for (; k < count; ++k) {
-    values[k] = a[k];
-    allPresent = allPresent && !arrivesMissing(a[k]);
-  }
-  return allPresent;
+  for (; k + 2 <= count; k += 2) present = _mm_and_pd(present, _mm_cmpgt_pd(_mm_loadu_pd(a + k), threshold));
+  return _mm_movemask_pd(present) == 3 && std::none_of(a + k, a + count, arrivesMissing);
 }
 
 void storeFlaggingMissing(matrix& m, const double* a, std::int64_t begin, std::int64_t end) {
@@ -52,7 +41,11 @@ void storeFlaggingMissing(matrix& m, const double* a, std::int64_t begin, std::i
 void convertDoubles(matrix& m, const double* a, std::int64_t count) {
   for (std::int64_t begin = 0; begin < count; begin += kStride) {
     const std::int64_t end = std::min(begin + kStride, count);
-    if (!copyUnlessMissing(a + begin, end - begin, m.values + begin)) storeFlaggingMissing(m, a, begin, end);
+    if (noneArrivesMissing(a + begin, end - begin)) {
+      std::copy(a + begin, a + end, m.values + begin);
+    } else {
+      storeFlaggingMissing(m, a, begin, end);
+    }
   }
 }
 
@@ -72,14 +65,6 @@ constexpr std::int64_t kFew = 64;
 /// Cells beyond which a size may be a mistake: nothing of the array is read before memory for a copy has been
 /// had.
 constexpr std::int64_t kMany = std::int64_t{1} << 24;
-
-bool noneArrivesMissing(const double* a, std::int64_t count) {
-  const __m128d threshold = _mm_set1_pd(kMissingOnArrival);
-  __m128d present = _mm_castsi128_pd(_mm_set1_epi32(-1));
-  std::int64_t k = 0;
-  for (; k + 2 <= count; k += 2) present = _mm_and_pd(present, _mm_cmpgt_pd(_mm_loadu_pd(a + k), threshold));
-  return _mm_movemask_pd(present) == 3 && std::none_of(a + k, a + count, arrivesMissing);
-}
 
 /// The array itself when its cells can serve as they stand, else null.
 double* usableInPlace(const double* a, std::int64_t count, bool keepAll) {

@@ -6,6 +6,9 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <iomanip>
+#include <sstream>
+#include <string>
 #include <vector>
 
 namespace bits {
@@ -15,12 +18,18 @@ inline std::uint64_t of(double x) { return std::bit_cast<std::uint64_t>(x); }
 /// Signed zeros differ, NaNs do not: which payload survives an operation is the processor's affair.
 inline bool same(double a, double b) { return of(a) == of(b) || (std::isnan(a) && std::isnan(b)); }
 
-/// For EXPECT_TRUE: tells value and bits when the two differ.
+/// A double with all its digits and its bits.
+inline std::string text(double x) {
+  std::ostringstream out;
+  out << std::setprecision(17) << x << " (0x" << std::hex << std::setfill('0') << std::setw(16) << of(x)
+      << ")";
+  return out.str();
+}
+
+/// For EXPECT_TRUE: tells values and bits when the two differ.
 inline testing::AssertionResult equal(double actual, double expected) {
   if (same(actual, expected)) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << std::hexfloat << actual << " (" << std::hex << of(actual)
-                                     << ") instead of " << std::hexfloat << expected << " (" << std::hex
-                                     << of(expected) << ")";
+  return testing::AssertionFailure() << text(actual) << " instead of " << text(expected);
 }
 
 /// The same for whole arrays; tells the first place that differs.

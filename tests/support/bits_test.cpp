@@ -15,5 +15,5 @@ TEST(Bits, ReportTheFirstDifference) {
   EXPECT_FALSE(bits::equal({1.0, 2.0}, {1.0}));
   const testing::AssertionResult result = bits::equal({1.0, 0.0}, {1.0, -0.0});
   ASSERT_FALSE(result);
-  EXPECT_NE(std::string(result.message()).find(" at 1"), std::string::npos);
+  EXPECT_STREQ(result.message(), "0 (0x0000000000000000) instead of -0 (0x8000000000000000) at 1");
 }
