@@ -131,6 +131,16 @@ TEST(VectorSums, RowOfWeightZeroIsAnAbsentRow) {
   EXPECT_TRUE(bits::equal(mean(all, allWeights), mean(present, presentWeights)));
 }
 
+// A weight of zero would add nothing to finite cells even if the row were used.
+TEST(VectorSums, WeightZeroLeavesOutWhatCannotBeMultipliedByIt) {
+  const double infinity = std::numeric_limits<double>::infinity();
+  const double cells[] = {2.385, infinity, 4.5}, weightCells[] = {1.0, 0.0, 1.0};
+  const short none[3] = {};
+  const matrix x(3, 1, cells, false, 0, 0), w(3, 1, weightCells, false, 0, 0);
+  EXPECT_EQ(V_Mean(&x, 3, none, &w), 6.885 / 2.0);
+  EXPECT_TRUE(std::isnan(V_Sum(&x, 3, none, &w)));
+}
+
 TEST(VectorSums, NotANumberGoesThrough) {
   const double cells[] = {2.385, kNan}, weightCells[] = {1.0, kNan};
   const short none[2] = {};
