@@ -11,22 +11,124 @@ Option Explicit
 
 #If VBA7 Then
   Public Declare PtrSafe Function VB_V_Sum Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare PtrSafe Sub VB_V_MinMax Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef VMin As Double, ByRef VMax As Double, ByRef iMissing As Boolean)
+  Public Declare PtrSafe Function VB_V_Min Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean) As Double
+  Public Declare PtrSafe Function VB_V_Max Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean) As Double
+  Public Declare PtrSafe Function VB_V_MaxInt Lib "KAVORATB1C.dll" (ByRef iVector As Long, ByVal n As Long, ByRef iMissing As Boolean) As Long
+  Public Declare PtrSafe Sub VB_V_PlusVal Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal ival As Double, ByRef iMissing As Boolean)
+  Public Declare PtrSafe Function VB_V_ProductTrV1V2 Lib "KAVORATB1C.dll" (ByRef iV1 As Double, ByVal n As Long, ByRef iV2 As Double) As Double
   Public Declare PtrSafe Function VB_V_Mean Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare PtrSafe Function VB_V_MeanAbs Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare PtrSafe Function VB_V_Freq Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef w As Double, ByVal iValue As Double, ByVal iEpsilon As Double) As Double
+  Public Declare PtrSafe Function VB_V_FreqLng Lib "KAVORATB1C.dll" (ByRef iVector As Long, ByVal n As Long, ByRef w As Double, ByVal iValue As Long) As Long
+  Public Declare PtrSafe Function VB_V_FreqStr Lib "KAVORATB1C.dll" (ByVal iVector As LongPtr, ByVal n As Long, ByRef w As Double, ByVal iValue As LongPtr) As Double
+  Public Declare PtrSafe Function VB_V_Var Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
+  Public Declare PtrSafe Function VB_V_Stdev Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
+  Public Declare PtrSafe Sub VB_V_MeanVar Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef Mean As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Sub VB_V_MeanStdev Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Function VB_V_Mode Lib "KAVORATB1C.dll" (ByVal iVector As LongPtr, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As LongPtr
+  Public Declare PtrSafe Sub VB_V_GetMissingStr Lib "KAVORATB1C.dll" (ByVal iVectMat As LongPtr, ByVal n As Long, ByRef iMissing As Boolean, ByRef oMissing As Boolean)
+  Public Declare PtrSafe Function VB_V_HarmonicMean Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare PtrSafe Sub VB_V_GetMissingDbl Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef oMissing As Boolean)
+  Public Declare PtrSafe Function VB_V_IsPositive Lib "KAVORATB1C.dll" (ByRef iV As Double, ByVal n As Long, ByVal iStrictly As Boolean) As Boolean
+  Public Declare PtrSafe Function VB_V_IsWeights Lib "KAVORATB1C.dll" (ByRef iW As Double, ByVal nW As Long) As Boolean
+  Public Declare PtrSafe Function VB_V_IsCWeights Lib "KAVORATB1C.dll" (ByRef iW As Double, ByVal nW As Long) As Boolean
+  Public Declare PtrSafe Function VB_V_IsIndicator Lib "KAVORATB1C.dll" (ByRef iV As Double, ByVal nV As Long) As Boolean
+  Public Declare PtrSafe Function VB_V_Is01 Lib "KAVORATB1C.dll" (ByRef iV As Double, ByVal nV As Long) As Boolean
+  Public Declare PtrSafe Function VB_V_NbMissing Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long) As Long
+  Public Declare PtrSafe Function VB_V_NbMissingStr Lib "KAVORATB1C.dll" (ByVal iVector As LongPtr, ByVal n As Long) As Long
+  Public Declare PtrSafe Function VB_V_NbNonMissing Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long) As Long
   Public Declare PtrSafe Function VB_V_Sum2Dbl Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long) As Double
   Public Declare PtrSafe Function VB_V_Sum2Lng Lib "KAVORATB1C.dll" (ByRef iVector As Long, ByVal n As Long) As Long
+  Public Declare PtrSafe Function VB_V_Quantile Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByVal Prob As Double) As Double
+  Public Declare PtrSafe Function VB_V_QuantileW Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByRef w As Double, ByVal Prob As Double) As Double
+  Public Declare PtrSafe Function VB_V_QuantileM Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByRef missing As Boolean, ByVal Prob As Double) As Double
+  Public Declare PtrSafe Function VB_V_QuantileMW Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByRef missing As Boolean, ByRef w As Double, ByVal Prob As Double) As Double
   Public Declare PtrSafe Sub VB_V_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oVect As Double)
   Public Declare PtrSafe Sub VB_V_DuplicateLng Lib "KAVORATB1C.dll" (ByRef iVect As Long, ByVal n As Long, ByRef oVect As Long)
   Public Declare PtrSafe Sub VB_V_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iVect As LongPtr, ByVal n As Long, ByVal oVect As LongPtr)
+  Public Declare PtrSafe Function VB_V_IsConstant Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long) As Boolean
   Public Declare PtrSafe Function VB_V_IsConstantBool Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long) As Boolean
+  Public Declare PtrSafe Sub VB_V_RemoveVal Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ID As Long, ByRef oVect As Double)
+  Public Declare PtrSafe Function VB_V_NbTrue Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long) As Long
+  Public Declare PtrSafe Function VB_V_SumFromTo Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iFrom As Long, ByVal iTo As Long) As Double
+  Public Declare PtrSafe Function VB_V_SumFromToLng Lib "KAVORATB1C.dll" (ByRef iVect As Long, ByVal n As Long, ByVal iFrom As Long, ByVal iTo As Long) As Long
+  Public Declare PtrSafe Sub VB_V_MeanVarSkewPKurtP Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef Mean As Double, ByRef Var As Double, ByRef SkewP As Double, ByRef KurtP As Double, ByRef SkewF As Double, ByRef KurtF As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Function VB_V_MedianAbsDev Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iMedian As Double, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare PtrSafe Function VB_V_MeanAbsDev Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iMean As Double, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare PtrSafe Sub VB_V_GMeanGSD Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByRef oGMean As Double, ByRef oGSD As Double)
+  Public Declare PtrSafe Sub VB_V_Standardize Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByRef oVector As Double)
+  Public Declare PtrSafe Sub VB_V_Standardize2 Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Sub VB_V_Rescale Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean, ByRef oVector As Double)
+  Public Declare PtrSafe Sub VB_V_Rescale2 Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean)
+  Public Declare PtrSafe Sub VB_V_ProductHorizV1V2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal p1 As Long, ByRef iVect2 As Double, ByVal p2 As Long, ByRef oVect As Double, ByVal p As Long)
+  Public Declare PtrSafe Sub VB_V_ProductHorizV1V22 Lib "KAVORATB1C.dll" (ByRef ioVect1 As Double, ByRef iop1 As Long, ByRef iVect2 As Double, ByVal p2 As Long)
+  Public Declare PtrSafe Function VB_V_V1GreaterThanMatCols Lib "KAVORATB1C.dll" (ByRef w As Double, ByVal n As Long, ByRef Y As Double, ByVal p As Long) As Boolean
+  Public Declare PtrSafe Function VB_V_SumSq Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long) As Double
+  Public Declare PtrSafe Function VB_V_SumSqW Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef w As Double) As Double
+  Public Declare PtrSafe Sub VB_V_Norm Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long)
+  Public Declare PtrSafe Sub VB_V_NormToVal Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ival As Double)
+  Public Declare PtrSafe Sub VB_V_NormW Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef w As Double)
+  Public Declare PtrSafe Sub VB_V_NormToValW Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ival As Double, ByRef w As Double)
+  Public Declare PtrSafe Sub VB_V_Set1toNDbl Lib "KAVORATB1C.dll" (ByRef oVect As Double, ByVal n As Long)
+  Public Declare PtrSafe Sub VB_V_Set1toNLng Lib "KAVORATB1C.dll" (ByRef oVect As Long, ByVal n As Long)
+  Public Declare PtrSafe Sub VB_V_GetRanksLng Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oRanks As Long)
+  Public Declare PtrSafe Sub VB_V_GetRanksDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oRanks As Double)
+  Public Declare PtrSafe Sub VB_V_GetPositionInMatNNm1o2 Lib "KAVORATB1C.dll" (ByVal iPos As Long, ByVal n As Long, ByRef oX As Long, ByRef oY As Long)
+  Public Declare PtrSafe Sub VB_V_GetPositionInMatNNp1o2 Lib "KAVORATB1C.dll" (ByVal iPos As Long, ByVal n As Long, ByRef oX As Long, ByRef oY As Long)
+  Public Declare PtrSafe Sub VB_V_GetPositionInMatNN Lib "KAVORATB1C.dll" (ByVal iPos As Long, ByVal n As Long, ByRef oX As Long, ByRef oY As Long)
   Public Declare PtrSafe Function VB_V_SetToValue Lib "KAVORATB1C.dll" (ByRef oVector As Double, ByVal n As Long, ByVal iValue As Double) As Long
   Public Declare PtrSafe Function VB_V_SetToValueLng Lib "KAVORATB1C.dll" (ByRef oVector As Long, ByVal n As Long, ByVal iValue As Long) As Long
+  Public Declare PtrSafe Sub VB_V_ReplaceDoubles Lib "KAVORATB1C.dll" (ByVal LabelX As LongPtr, ByVal n As Long)
+  Public Declare PtrSafe Sub VB_V_ReplaceVal Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iVal1 As Double, ByVal iVal2 As Double, ByRef oVect As Double)
+  Public Declare PtrSafe Sub VB_V_ReplaceVal2 Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iVal1 As Double, ByVal iVal2 As Double)
+  Public Declare PtrSafe Sub VB_V_GetRanksTiesDbl Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef w As Double, ByRef oRanks As Double, ByRef oNbTiedVal As Long, ByRef oNbTies As Double)
+  Public Declare PtrSafe Sub VB_V_GetRanksTiesIntDbl Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef w As Double, ByRef oRanks As Double, ByRef oNbTiedVal As Long, ByRef oNbTies As Double)
+  Public Declare PtrSafe Function VB_V_NbTrueFromTo Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long, ByVal nStart As Long, ByVal nEnd As Long) As Long
+  Public Declare PtrSafe Function VB_V_MaxAndMaxPos Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oMaxPos As Long) As Double
+  Public Declare PtrSafe Function VB_V_MinAndMinPos Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oMinPos As Long) As Double
+  Public Declare PtrSafe Function VB_V_DiffSq Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double) As Double
+  Public Declare PtrSafe Sub VB_V_ProductV1V22 Lib "KAVORATB1C.dll" (ByRef ioVect1 As Double, ByVal n As Long, ByRef iVect2 As Double)
+  Public Declare PtrSafe Sub VB_V_ProductV1V2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double, ByRef oVect As Double)
+  Public Declare PtrSafe Function VB_V_V1inferiorV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double) As Boolean
   Public Declare PtrSafe Sub VB_V_SetToValueStr Lib "KAVORATB1C.dll" (ByVal oVect As LongPtr, ByVal n As Long, ByVal ival As LongPtr)
+  Public Declare PtrSafe Function VB_V_NbDistinct Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long) As Long
+  Public Declare PtrSafe Sub VB_V_ExtractDistinct Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oVect As Double, ByRef k As Long)
+  Public Declare PtrSafe Function VB_V_TimeIntervalSize Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iDoSort As Boolean) As Double
+  Public Declare PtrSafe Function VB_V_IsSorted Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iStrictly As Boolean) As Boolean
+  Public Declare PtrSafe Sub VB_V_ProductV1TrV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_V_ReverseDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oVect As Double)
   Public Declare PtrSafe Sub VB_V_ReverseBool Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long, ByRef oVect As Boolean)
+  Public Declare PtrSafe Function VB_V_IsInInterval Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iLower As Double, ByVal iUpper As Double, ByVal iStrictly As Boolean, ByVal iIgnoreMissing As Boolean) As Boolean
+  Public Declare PtrSafe Function VB_V_NbIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ival As Double) As Double
+  Public Declare PtrSafe Function VB_V_SumIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
+  Public Declare PtrSafe Function VB_V_MeanIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
+  Public Declare PtrSafe Function VB_V_VarIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double, ByVal iBiased As Boolean) As Double
   Public Declare PtrSafe Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iAMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal oMat As LongPtr)
+  Public Declare PtrSafe Function VB_SortQVectorLng Lib "KAVORATB1C.dll" (ByRef ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortQVectorDbl Lib "KAVORATB1C.dll" (ByRef ioVector As Double, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortQVectorStr Lib "KAVORATB1C.dll" (ByVal ioVector As LongPtr, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortQMatrixCol Lib "KAVORATB1C.dll" (ByRef ioMatrix As Double, ByVal n As Long, ByVal p As Long, ByVal iCol As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
+  Public Declare PtrSafe Sub VB_SortMatrixSeqQDbl Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long)
+  Public Declare PtrSafe Sub VB_SortMatrixSeqQLng Lib "KAVORATB1C.dll" (ByRef iMat As Long, ByVal n As Long, ByVal p As Long)
+  Public Declare PtrSafe Function VB_SortQDbl Lib "KAVORATB1C.dll" (ByRef ioSlave As Double, ByVal n As Long, ByVal pSlave As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByRef ioMaster As Double, ByRef ioSlave2 As Double, ByVal pSlave2 As Long, ByVal iSortdown As Boolean, ByVal updateMaster As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortQLng Lib "KAVORATB1C.dll" (ByRef ioSlave As Long, ByVal n As Long, ByVal pSlave As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByRef ioMaster As Long, ByRef ioSlave2 As Long, ByVal pSlave2 As Long, ByVal iSortdown As Boolean, ByVal updateMaster As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortQStr Lib "KAVORATB1C.dll" (ByVal ioSlave As LongPtr, ByVal n As Long, ByVal pSlave As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByRef ioMaster As Double, ByRef ioSlave2 As Double, ByVal pSlave2 As Long, ByVal iSortdown As Boolean, ByVal updateMaster As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortQBool Lib "KAVORATB1C.dll" (ByRef ioSlave As Boolean, ByVal n As Long, ByVal pSlave As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByRef ioMaster As Double, ByRef ioSlave2 As Double, ByVal pSlave2 As Long, ByVal iSortdown As Boolean, ByVal updateMaster As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortDataBy01 Lib "KAVORATB1C.dll" (ByRef iSlave As Double, ByVal n As Long, ByVal p As Long, ByRef iMaster As Double, ByVal nOut As Long, ByVal KeepInitialOrder As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortDataBy01Str Lib "KAVORATB1C.dll" (ByVal iSlave As LongPtr, ByVal n As Long, ByVal p As Long, ByRef iMaster As Double, ByVal nOut As Long, ByVal KeepInitialOrder As Boolean) As Long
+  Public Declare PtrSafe Function VB_SortDataBy01Bool Lib "KAVORATB1C.dll" (ByRef iSlave As Boolean, ByVal n As Long, ByVal p As Long, ByRef iMaster As Double, ByVal nOut As Long, ByVal KeepInitialOrder As Boolean) As Long
+  Public Declare PtrSafe Sub VB_SortApply Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iSortVect As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_SortApplyStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByRef iSortVect As Double, ByVal oMat As LongPtr)
   Public Declare PtrSafe Function VB_InitVectorToFalse Lib "KAVORATB1C.dll" (ByRef oVector As Boolean, ByVal n As Long) As Long
   Public Declare PtrSafe Function VB_IsMissingValueDbl Lib "KAVORATB1C.dll" (ByVal iValue As Double) As Boolean
   Public Declare PtrSafe Function VB_IsMissingValueStr Lib "KAVORATB1C.dll" (ByVal iValue As LongPtr) As Boolean
+  Public Declare PtrSafe Function VB_CorrelPearson Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByRef iVector2 As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
+  Public Declare PtrSafe Function VB_MAPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
+  Public Declare PtrSafe Function VB_RMSE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByVal nY As Long, ByVal p As Long, ByRef PredY As Double, ByVal DF As Long) As Double
+  Public Declare PtrSafe Function VB_MPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
+  Public Declare PtrSafe Function VB_MAE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
 
   Private Declare PtrSafe Function SysReAllocString Lib "oleaut32" (ByVal target As LongPtr, ByVal source As LongPtr) As Long
   Private Declare PtrSafe Sub SysFreeString Lib "oleaut32" (ByVal text As LongPtr)
@@ -34,22 +136,124 @@ Option Explicit
   Public Function TakeString(ByVal result As LongPtr) As String
 #Else
   Public Declare Function VB_V_Sum Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare Sub VB_V_MinMax Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef VMin As Double, ByRef VMax As Double, ByRef iMissing As Boolean)
+  Public Declare Function VB_V_Min Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean) As Double
+  Public Declare Function VB_V_Max Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean) As Double
+  Public Declare Function VB_V_MaxInt Lib "KAVORATB1C.dll" (ByRef iVector As Long, ByVal n As Long, ByRef iMissing As Boolean) As Long
+  Public Declare Sub VB_V_PlusVal Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal ival As Double, ByRef iMissing As Boolean)
+  Public Declare Function VB_V_ProductTrV1V2 Lib "KAVORATB1C.dll" (ByRef iV1 As Double, ByVal n As Long, ByRef iV2 As Double) As Double
   Public Declare Function VB_V_Mean Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare Function VB_V_MeanAbs Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare Function VB_V_Freq Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef w As Double, ByVal iValue As Double, ByVal iEpsilon As Double) As Double
+  Public Declare Function VB_V_FreqLng Lib "KAVORATB1C.dll" (ByRef iVector As Long, ByVal n As Long, ByRef w As Double, ByVal iValue As Long) As Long
+  Public Declare Function VB_V_FreqStr Lib "KAVORATB1C.dll" (ByVal iVector As Long, ByVal n As Long, ByRef w As Double, ByVal iValue As Long) As Double
+  Public Declare Function VB_V_Var Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
+  Public Declare Function VB_V_Stdev Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
+  Public Declare Sub VB_V_MeanVar Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef Mean As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Sub VB_V_MeanStdev Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Function VB_V_Mode Lib "KAVORATB1C.dll" (ByVal iVector As Long, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Long
+  Public Declare Sub VB_V_GetMissingStr Lib "KAVORATB1C.dll" (ByVal iVectMat As Long, ByVal n As Long, ByRef iMissing As Boolean, ByRef oMissing As Boolean)
+  Public Declare Function VB_V_HarmonicMean Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare Sub VB_V_GetMissingDbl Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef oMissing As Boolean)
+  Public Declare Function VB_V_IsPositive Lib "KAVORATB1C.dll" (ByRef iV As Double, ByVal n As Long, ByVal iStrictly As Boolean) As Boolean
+  Public Declare Function VB_V_IsWeights Lib "KAVORATB1C.dll" (ByRef iW As Double, ByVal nW As Long) As Boolean
+  Public Declare Function VB_V_IsCWeights Lib "KAVORATB1C.dll" (ByRef iW As Double, ByVal nW As Long) As Boolean
+  Public Declare Function VB_V_IsIndicator Lib "KAVORATB1C.dll" (ByRef iV As Double, ByVal nV As Long) As Boolean
+  Public Declare Function VB_V_Is01 Lib "KAVORATB1C.dll" (ByRef iV As Double, ByVal nV As Long) As Boolean
+  Public Declare Function VB_V_NbMissing Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long) As Long
+  Public Declare Function VB_V_NbMissingStr Lib "KAVORATB1C.dll" (ByVal iVector As Long, ByVal n As Long) As Long
+  Public Declare Function VB_V_NbNonMissing Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long) As Long
   Public Declare Function VB_V_Sum2Dbl Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long) As Double
   Public Declare Function VB_V_Sum2Lng Lib "KAVORATB1C.dll" (ByRef iVector As Long, ByVal n As Long) As Long
+  Public Declare Function VB_V_Quantile Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByVal Prob As Double) As Double
+  Public Declare Function VB_V_QuantileW Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByRef w As Double, ByVal Prob As Double) As Double
+  Public Declare Function VB_V_QuantileM Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByRef missing As Boolean, ByVal Prob As Double) As Double
+  Public Declare Function VB_V_QuantileMW Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByRef missing As Boolean, ByRef w As Double, ByVal Prob As Double) As Double
   Public Declare Sub VB_V_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oVect As Double)
   Public Declare Sub VB_V_DuplicateLng Lib "KAVORATB1C.dll" (ByRef iVect As Long, ByVal n As Long, ByRef oVect As Long)
   Public Declare Sub VB_V_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iVect As Long, ByVal n As Long, ByVal oVect As Long)
+  Public Declare Function VB_V_IsConstant Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long) As Boolean
   Public Declare Function VB_V_IsConstantBool Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long) As Boolean
+  Public Declare Sub VB_V_RemoveVal Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ID As Long, ByRef oVect As Double)
+  Public Declare Function VB_V_NbTrue Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long) As Long
+  Public Declare Function VB_V_SumFromTo Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iFrom As Long, ByVal iTo As Long) As Double
+  Public Declare Function VB_V_SumFromToLng Lib "KAVORATB1C.dll" (ByRef iVect As Long, ByVal n As Long, ByVal iFrom As Long, ByVal iTo As Long) As Long
+  Public Declare Sub VB_V_MeanVarSkewPKurtP Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef Mean As Double, ByRef Var As Double, ByRef SkewP As Double, ByRef KurtP As Double, ByRef SkewF As Double, ByRef KurtF As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Function VB_V_MedianAbsDev Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iMedian As Double, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare Function VB_V_MeanAbsDev Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iMean As Double, ByRef iMissing As Boolean, ByRef w As Double) As Double
+  Public Declare Sub VB_V_GMeanGSD Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByRef oGMean As Double, ByRef oGSD As Double)
+  Public Declare Sub VB_V_Standardize Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByRef oVector As Double)
+  Public Declare Sub VB_V_Standardize2 Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean)
+  Public Declare Sub VB_V_Rescale Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean, ByRef oVector As Double)
+  Public Declare Sub VB_V_Rescale2 Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean)
+  Public Declare Sub VB_V_ProductHorizV1V2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal p1 As Long, ByRef iVect2 As Double, ByVal p2 As Long, ByRef oVect As Double, ByVal p As Long)
+  Public Declare Sub VB_V_ProductHorizV1V22 Lib "KAVORATB1C.dll" (ByRef ioVect1 As Double, ByRef iop1 As Long, ByRef iVect2 As Double, ByVal p2 As Long)
+  Public Declare Function VB_V_V1GreaterThanMatCols Lib "KAVORATB1C.dll" (ByRef w As Double, ByVal n As Long, ByRef Y As Double, ByVal p As Long) As Boolean
+  Public Declare Function VB_V_SumSq Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long) As Double
+  Public Declare Function VB_V_SumSqW Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef w As Double) As Double
+  Public Declare Sub VB_V_Norm Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long)
+  Public Declare Sub VB_V_NormToVal Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ival As Double)
+  Public Declare Sub VB_V_NormW Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef w As Double)
+  Public Declare Sub VB_V_NormToValW Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ival As Double, ByRef w As Double)
+  Public Declare Sub VB_V_Set1toNDbl Lib "KAVORATB1C.dll" (ByRef oVect As Double, ByVal n As Long)
+  Public Declare Sub VB_V_Set1toNLng Lib "KAVORATB1C.dll" (ByRef oVect As Long, ByVal n As Long)
+  Public Declare Sub VB_V_GetRanksLng Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oRanks As Long)
+  Public Declare Sub VB_V_GetRanksDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oRanks As Double)
+  Public Declare Sub VB_V_GetPositionInMatNNm1o2 Lib "KAVORATB1C.dll" (ByVal iPos As Long, ByVal n As Long, ByRef oX As Long, ByRef oY As Long)
+  Public Declare Sub VB_V_GetPositionInMatNNp1o2 Lib "KAVORATB1C.dll" (ByVal iPos As Long, ByVal n As Long, ByRef oX As Long, ByRef oY As Long)
+  Public Declare Sub VB_V_GetPositionInMatNN Lib "KAVORATB1C.dll" (ByVal iPos As Long, ByVal n As Long, ByRef oX As Long, ByRef oY As Long)
   Public Declare Function VB_V_SetToValue Lib "KAVORATB1C.dll" (ByRef oVector As Double, ByVal n As Long, ByVal iValue As Double) As Long
   Public Declare Function VB_V_SetToValueLng Lib "KAVORATB1C.dll" (ByRef oVector As Long, ByVal n As Long, ByVal iValue As Long) As Long
+  Public Declare Sub VB_V_ReplaceDoubles Lib "KAVORATB1C.dll" (ByVal LabelX As Long, ByVal n As Long)
+  Public Declare Sub VB_V_ReplaceVal Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iVal1 As Double, ByVal iVal2 As Double, ByRef oVect As Double)
+  Public Declare Sub VB_V_ReplaceVal2 Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iVal1 As Double, ByVal iVal2 As Double)
+  Public Declare Sub VB_V_GetRanksTiesDbl Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef w As Double, ByRef oRanks As Double, ByRef oNbTiedVal As Long, ByRef oNbTies As Double)
+  Public Declare Sub VB_V_GetRanksTiesIntDbl Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef w As Double, ByRef oRanks As Double, ByRef oNbTiedVal As Long, ByRef oNbTies As Double)
+  Public Declare Function VB_V_NbTrueFromTo Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long, ByVal nStart As Long, ByVal nEnd As Long) As Long
+  Public Declare Function VB_V_MaxAndMaxPos Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oMaxPos As Long) As Double
+  Public Declare Function VB_V_MinAndMinPos Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oMinPos As Long) As Double
+  Public Declare Function VB_V_DiffSq Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double) As Double
+  Public Declare Sub VB_V_ProductV1V22 Lib "KAVORATB1C.dll" (ByRef ioVect1 As Double, ByVal n As Long, ByRef iVect2 As Double)
+  Public Declare Sub VB_V_ProductV1V2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double, ByRef oVect As Double)
+  Public Declare Function VB_V_V1inferiorV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double) As Boolean
   Public Declare Sub VB_V_SetToValueStr Lib "KAVORATB1C.dll" (ByVal oVect As Long, ByVal n As Long, ByVal ival As Long)
+  Public Declare Function VB_V_NbDistinct Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long) As Long
+  Public Declare Sub VB_V_ExtractDistinct Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oVect As Double, ByRef k As Long)
+  Public Declare Function VB_V_TimeIntervalSize Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iDoSort As Boolean) As Double
+  Public Declare Function VB_V_IsSorted Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iStrictly As Boolean) As Boolean
+  Public Declare Sub VB_V_ProductV1TrV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double, ByRef oMat As Double)
+  Public Declare Sub VB_V_ReverseDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oVect As Double)
   Public Declare Sub VB_V_ReverseBool Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long, ByRef oVect As Boolean)
+  Public Declare Function VB_V_IsInInterval Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iLower As Double, ByVal iUpper As Double, ByVal iStrictly As Boolean, ByVal iIgnoreMissing As Boolean) As Boolean
+  Public Declare Function VB_V_NbIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ival As Double) As Double
+  Public Declare Function VB_V_SumIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
+  Public Declare Function VB_V_MeanIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
+  Public Declare Function VB_V_VarIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double, ByVal iBiased As Boolean) As Double
   Public Declare Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iAMat As Long, ByVal n As Long, ByVal p As Long, ByVal oMat As Long)
+  Public Declare Function VB_SortQVectorLng Lib "KAVORATB1C.dll" (ByRef ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
+  Public Declare Function VB_SortQVectorDbl Lib "KAVORATB1C.dll" (ByRef ioVector As Double, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
+  Public Declare Function VB_SortQVectorStr Lib "KAVORATB1C.dll" (ByVal ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
+  Public Declare Function VB_SortQMatrixCol Lib "KAVORATB1C.dll" (ByRef ioMatrix As Double, ByVal n As Long, ByVal p As Long, ByVal iCol As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
+  Public Declare Sub VB_SortMatrixSeqQDbl Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long)
+  Public Declare Sub VB_SortMatrixSeqQLng Lib "KAVORATB1C.dll" (ByRef iMat As Long, ByVal n As Long, ByVal p As Long)
+  Public Declare Function VB_SortQDbl Lib "KAVORATB1C.dll" (ByRef ioSlave As Double, ByVal n As Long, ByVal pSlave As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByRef ioMaster As Double, ByRef ioSlave2 As Double, ByVal pSlave2 As Long, ByVal iSortdown As Boolean, ByVal updateMaster As Boolean) As Long
+  Public Declare Function VB_SortQLng Lib "KAVORATB1C.dll" (ByRef ioSlave As Long, ByVal n As Long, ByVal pSlave As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByRef ioMaster As Long, ByRef ioSlave2 As Long, ByVal pSlave2 As Long, ByVal iSortdown As Boolean, ByVal updateMaster As Boolean) As Long
+  Public Declare Function VB_SortQStr Lib "KAVORATB1C.dll" (ByVal ioSlave As Long, ByVal n As Long, ByVal pSlave As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByRef ioMaster As Double, ByRef ioSlave2 As Double, ByVal pSlave2 As Long, ByVal iSortdown As Boolean, ByVal updateMaster As Boolean) As Long
+  Public Declare Function VB_SortQBool Lib "KAVORATB1C.dll" (ByRef ioSlave As Boolean, ByVal n As Long, ByVal pSlave As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByRef ioMaster As Double, ByRef ioSlave2 As Double, ByVal pSlave2 As Long, ByVal iSortdown As Boolean, ByVal updateMaster As Boolean) As Long
+  Public Declare Function VB_SortDataBy01 Lib "KAVORATB1C.dll" (ByRef iSlave As Double, ByVal n As Long, ByVal p As Long, ByRef iMaster As Double, ByVal nOut As Long, ByVal KeepInitialOrder As Boolean) As Long
+  Public Declare Function VB_SortDataBy01Str Lib "KAVORATB1C.dll" (ByVal iSlave As Long, ByVal n As Long, ByVal p As Long, ByRef iMaster As Double, ByVal nOut As Long, ByVal KeepInitialOrder As Boolean) As Long
+  Public Declare Function VB_SortDataBy01Bool Lib "KAVORATB1C.dll" (ByRef iSlave As Boolean, ByVal n As Long, ByVal p As Long, ByRef iMaster As Double, ByVal nOut As Long, ByVal KeepInitialOrder As Boolean) As Long
+  Public Declare Sub VB_SortApply Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iSortVect As Double, ByRef oMat As Double)
+  Public Declare Sub VB_SortApplyStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByRef iSortVect As Double, ByVal oMat As Long)
   Public Declare Function VB_InitVectorToFalse Lib "KAVORATB1C.dll" (ByRef oVector As Boolean, ByVal n As Long) As Long
   Public Declare Function VB_IsMissingValueDbl Lib "KAVORATB1C.dll" (ByVal iValue As Double) As Boolean
   Public Declare Function VB_IsMissingValueStr Lib "KAVORATB1C.dll" (ByVal iValue As Long) As Boolean
+  Public Declare Function VB_CorrelPearson Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByRef iVector2 As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
+  Public Declare Function VB_MAPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
+  Public Declare Function VB_RMSE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByVal nY As Long, ByVal p As Long, ByRef PredY As Double, ByVal DF As Long) As Double
+  Public Declare Function VB_MPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
+  Public Declare Function VB_MAE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
 
   Private Declare Function SysReAllocString Lib "oleaut32" (ByVal target As Long, ByVal source As Long) As Long
   Private Declare Sub SysFreeString Lib "oleaut32" (ByVal text As Long)

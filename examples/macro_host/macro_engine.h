@@ -106,6 +106,12 @@ class Module {
   VARIANT_BOOL boolean(std::wstring_view name, const std::vector<Argument>& arguments) const {
     return call(name, arguments).boolVal;
   }
+  std::wstring text(std::wstring_view name, const std::vector<Argument>& arguments) const {
+    const VARIANT result = call(name, arguments);
+    const std::wstring copy(result.bstrVal, SysStringLen(result.bstrVal));
+    SysFreeString(result.bstrVal);
+    return copy;
+  }
 
  private:
   void readProcedures();

@@ -10,7 +10,7 @@
 #include <cstddef>
 #include <optional>
 #include <stdexcept>
-#include <type_traits>
+#include <utility>
 
 #include "core/Smatrix.h"
 #include "core/addressing.h"
@@ -102,13 +102,21 @@ class InText {
 };
 
 /// A result that goes to an array of doubles (flagged cells as the marker), integers (truncated) or flags (-1
-/// for anything but 0.0). The worker sees a null container and sizes it.
+/// for anything but 0.0). What goes back is the container that the worker leaves behind, also when it has put
+/// another one in place of the one it was given.
 template <class Element>
 class OutArray {
  public:
-  explicit OutArray(Element* array) : OutArray(array, nullptr) {}
+  /// For results whose shape the worker finds: it sees a null container.
+  explicit OutArray(Element* array) : array_(array) {}
+
+  /// The worker sees a container of that shape.
+  OutArray(Element* array, int n, int p) : array_(array), given_(std::in_place, n, p), result_(&*given_) {}
+
   OutArray(const OutArray&) = delete;
-  ~OutArray() { delete result_; }
+  ~OutArray() {
+    if (!given_ || result_ != &*given_) delete result_;
+  }
 
   operator matrix*&() { return result_; }
 
@@ -120,37 +128,27 @@ class OutArray {
   }
 
  protected:
-  OutArray(Element* array, matrix* result) : array_(array), result_(result) {}
+  OutArray(Element* array, int n, int p, Cells cells)
+      : array_(array),
+        given_(std::in_place, n, p, required(array, n, p), cells == Cells::KeepAll),
+        result_(&*given_) {}
 
+ private:
   Element* array_;
-  matrix* result_;
+  std::optional<LocalTarget> given_;
+  matrix* result_ = nullptr;
 };
 
 using OutTable = OutArray<double>;
 using OutInts = OutArray<int>;
 using OutFlags = OutArray<VARIANT_BOOL>;
 
-/// An array that the worker rewrites in place. What goes back is the container that the worker leaves behind,
-/// also when it has put another one in place of the one it was given.
+/// An array that the worker rewrites in place.
 template <class Element>
 class InOutArray : public OutArray<Element> {
  public:
   InOutArray(Element* array, int n, int p, Cells cells = Cells::FlagMissing)
-      : OutArray<Element>(array, wrap(array, n, p, cells)), given_(this->result_) {}
-  ~InOutArray() {
-    if (this->result_ != given_) delete given_;
-  }
-
- private:
-  static matrix* wrap(const Element* array, int n, int p, Cells cells) {
-    if constexpr (std::is_same_v<Element, double>) {
-      return new matrix(n, p, required(array, n, p), cells == Cells::KeepAll, 0, 0);
-    } else {
-      return new matrix(n, p, required(array, n, p));
-    }
-  }
-
-  matrix* given_;
+      : OutArray<Element>(array, n, p, cells) {}
 };
 
 using InOutTable = InOutArray<double>;

@@ -11,7 +11,7 @@ VARIANT_BOOL entries::VB_IsMissingValueDbl(double iValue) { return IsMissingValu
 VARIANT_BOOL entries::VB_IsMissingValueStr(BSTR iValue) { return IsMissingValueStr(textOf(iValue)); }
 
 int entries::VB_InitVectorToFalse(VARIANT_BOOL* oVector, int n) {
-  OutFlags result(oVector);
+  OutFlags result(oVector, n, 1);
   const int status = InitVectorToFalse(result, n);
   store(result);
   return status;

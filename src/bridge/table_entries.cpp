@@ -8,7 +8,7 @@ using namespace bridge;
 
 void entries::VB_M_DuplicateDbl(double* iAMat, int n, int p, double* oMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable copy(oMat);
+  OutTable copy(oMat, n, p);
   M_Duplicate(a, n, p, copy);
   store(copy);
 }

@@ -1,11 +1,13 @@
-// Entries of the vector family.
+// Entries of the vector family: sums, means, variances, shape, fit.
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
 #include "platform/scalar.h"
+#include "stats/goodness_of_fit.h"
+#include "stats/quantiles.h"
+#include "stats/special_means.h"
+#include "stats/vector_moments.h"
 #include "stats/vector_sums.h"
-#include "stats/vector_tests.h"
-#include "tables/copies.h"
 
 using namespace bridge;
 
@@ -22,7 +24,40 @@ double entries::VB_V_Sum2Dbl(double* iVector, int n) {
 
 int entries::VB_V_Sum2Lng(int* iVector, int n) {
   const InInts x(iVector, n);
-  return truncateToInt(V_Sum2(x, n));
+  return scalar::truncateToInt(V_Sum2(x, n));
+}
+
+double entries::VB_V_SumFromTo(double* iVect, int n, int iFrom, int iTo) {
+  const InVector x(iVect, n);
+  return V_SumFromTo(x, n, iFrom, iTo);
+}
+
+int entries::VB_V_SumFromToLng(int* iVect, int n, int iFrom, int iTo) {
+  const InInts x(iVect, n);
+  return scalar::truncateToInt(V_SumFromTo(x, n, iFrom, iTo));
+}
+
+double entries::VB_V_SumSq(double* iVect, int n) {
+  const InVector x(iVect, n);
+  return V_SumSq(x, n);
+}
+
+double entries::VB_V_SumSqW(double* iVect, int n, double* w) {
+  const InVector x(iVect, n);
+  const InVector weights(w, n);
+  return V_SumSqW(x, n, weights);
+}
+
+double entries::VB_V_DiffSq(double* iVect1, int n, double* iVect2) {
+  const InVector x(iVect1, n);
+  const InVector y(iVect2, n);
+  return V_DiffSq(x, n, y);
+}
+
+double entries::VB_V_ProductTrV1V2(double* iV1, int n, double* iV2) {
+  const InVector x(iV1, n, Cells::KeepAll);
+  const InVector y(iV2, n, Cells::KeepAll);
+  return V_ProductTrV1V2(x, n, y);
 }
 
 double entries::VB_V_Mean(double* iVector, int n, VARIANT_BOOL* iMissing, double* w) {
@@ -31,55 +66,127 @@ double entries::VB_V_Mean(double* iVector, int n, VARIANT_BOOL* iMissing, double
   return V_Mean(x, n, iMissing, weights);
 }
 
-VARIANT_BOOL entries::VB_V_IsConstantBool(VARIANT_BOOL* iVect, int n) {
-  const InFlags x(iVect, n);
-  return V_IsConstant(x, n);
+double entries::VB_V_MeanAbs(double* iVector, int n, VARIANT_BOOL* iMissing, double* w) {
+  const InVector x(iVector, n);
+  const InVector weights(w, n);
+  return V_MeanAbs(x, n, iMissing, weights);
 }
 
-int entries::VB_V_SetToValue(double* oVector, int n, double iValue) {
-  OutTable result(oVector);
-  const int status = V_SetToValue(result, n, iValue);
-  store(result);
-  return status;
+double entries::VB_V_HarmonicMean(double* iVector, int n, VARIANT_BOOL* iMissing, double* w) {
+  const InVector x(iVector, n, Cells::KeepAll);
+  const InVector weights(w, n, Cells::KeepAll);
+  return V_HarmonicMean(x, n, iMissing, weights);
 }
 
-int entries::VB_V_SetToValueLng(int* oVector, int n, int iValue) {
-  OutInts result(oVector);
-  const int status = V_SetToValue(result, n, iValue);
-  store(result);
-  return status;
+void entries::VB_V_GMeanGSD(double* iVector, int n, VARIANT_BOOL* iMissing, double* w, double* oGMean,
+                            double* oGSD) {
+  const InVector x(iVector, n, Cells::KeepAll);
+  const InVector weights(w, n, Cells::KeepAll);
+  V_GMeanGSD(x, n, iMissing, weights, oGMean, oGSD);
 }
 
-void entries::VB_V_SetToValueStr(BSTR* oVect, int n, BSTR ival) {
-  OutText result(oVect);
-  V_SetToValueStr(result, n, textOf(ival));
-  store(result);
+double entries::VB_V_MeanAbsDev(double* iVector, int n, double iMean, VARIANT_BOOL* iMissing, double* w) {
+  const InVector x(iVector, n, Cells::KeepAll);
+  const InVector weights(w, n, Cells::KeepAll);
+  return V_MeanAbsDev(x, n, iMean, iMissing, weights);
 }
 
-void entries::VB_V_DuplicateDbl(double* iVect, int n, double* oVect) {
-  const InVector x(iVect, n, Cells::KeepAll);
-  OutTable copy(oVect);
-  V_Duplicate(x, n, copy);
-  store(copy);
+double entries::VB_V_MedianAbsDev(double* iVector, int n, double iMedian, VARIANT_BOOL* iMissing, double* w) {
+  const InVector x(iVector, n);
+  const InVector weights(w, n);
+  return V_MedianAbsDev(x, n, iMedian, iMissing, weights);
 }
 
-void entries::VB_V_DuplicateLng(int* iVect, int n, int* oVect) {
-  const InInts x(iVect, n);
-  OutInts copy(oVect);
-  V_Duplicate(x, n, copy);
-  store(copy);
+double entries::VB_V_NbIf(double* iVect, int n, double ival) {
+  const InVector x(iVect, n);
+  return V_NbIf(x, n, ival);
 }
 
-void entries::VB_V_DuplicateStr(BSTR* iVect, int n, BSTR* oVect) {
-  const InText x(iVect, n);
-  OutText copy(oVect);
-  V_Duplicate(x, n, copy);
-  store(copy);
+double entries::VB_V_SumIf(double* iVect, int n, double* iVect2, double ival) {
+  const InVector x(iVect, n);
+  const InVector criterion(iVect2, n);
+  return V_SumIf(x, n, criterion, ival);
 }
 
-void entries::VB_V_ReverseBool(VARIANT_BOOL* iVect, int n, VARIANT_BOOL* oVect) {
-  const InFlags x(iVect, n);
-  OutFlags reversed(oVect);
-  V_Reverse(x, n, reversed);
-  store(reversed);
+double entries::VB_V_MeanIf(double* iVect, int n, double* iVect2, double ival) {
+  const InVector x(iVect, n);
+  const InVector criterion(iVect2, n);
+  return V_MeanIf(x, n, criterion, ival);
+}
+
+double entries::VB_V_VarIf(double* iVect, int n, double* iVect2, double ival, VARIANT_BOOL iBiased) {
+  const InVector x(iVect, n);
+  const InVector criterion(iVect2, n);
+  return V_VarIf(x, n, criterion, ival, iBiased);
+}
+
+double entries::VB_V_Var(double* iVector, int n, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
+                         VARIANT_BOOL BiasIsOne) {
+  const InVector x(iVector, n);
+  const InVector weights(w, n);
+  return V_Var(x, n, iMissing, weights, Unbiased, BiasIsOne);
+}
+
+double entries::VB_V_Stdev(double* iVector, int n, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
+                           VARIANT_BOOL BiasIsOne) {
+  const InVector x(iVector, n);
+  const InVector weights(w, n);
+  return V_Stdev(x, n, iMissing, weights, Unbiased, BiasIsOne);
+}
+
+void entries::VB_V_MeanVar(double* iVector, int n, double* Mean, double* Var, VARIANT_BOOL* iMissing,
+                           double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
+  const InVector x(iVector, n);
+  const InVector weights(w, n);
+  V_MeanVar(x, n, Mean, Var, iMissing, weights, Unbiased, BiasIsOne);
+}
+
+void entries::VB_V_MeanStdev(double* iVector, int n, double* Mean, double* StDev, VARIANT_BOOL* iMissing,
+                             double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
+  const InVector x(iVector, n);
+  const InVector weights(w, n);
+  V_MeanStdev(x, n, Mean, StDev, iMissing, weights, Unbiased, BiasIsOne);
+}
+
+void entries::VB_V_MeanVarSkewPKurtP(double* iVector, int n, double* Mean, double* Var, double* SkewP,
+                                     double* KurtP, double* SkewF, double* KurtF, VARIANT_BOOL* iMissing,
+                                     double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
+  const InVector x(iVector, n);
+  const InVector weights(w, n);
+  V_MeanVarSkewPKurtP(x, n, Mean, Var, SkewP, KurtP, SkewF, KurtF, iMissing, weights, Unbiased, BiasIsOne);
+}
+
+double entries::VB_CorrelPearson(double* iVector1, double* iVector2, int n, VARIANT_BOOL* iMissing, double* w,
+                                 VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
+  const InVector x(iVector1, n);
+  const InVector y(iVector2, n);
+  const InVector weights(w, n);
+  return CorrelPearson(x, y, n, iMissing, weights, Unbiased, BiasIsOne);
+}
+
+double entries::VB_MAPE(double* Y, double* YPred, int n, double* w, int binf) {
+  const InVector obs(Y, n);
+  const InVector pred(YPred, n);
+  const OptionalVector weights(w, n);
+  return MAPE(obs, pred, n, weights, binf);
+}
+
+double entries::VB_MPE(double* Y, double* YPred, int n, double* w, int binf) {
+  const InVector obs(Y, n, Cells::KeepAll);
+  const InVector pred(YPred, n, Cells::KeepAll);
+  const InVector weights(w, n);
+  return MPE(obs, pred, n, weights, binf);
+}
+
+double entries::VB_MAE(double* Y, double* YPred, int n, double* w, int binf) {
+  const InVector obs(Y, n, Cells::KeepAll);
+  const InVector pred(YPred, n, Cells::KeepAll);
+  const InVector weights(w, n);
+  return MAE(obs, pred, n, weights, binf);
+}
+
+double entries::VB_RMSE(double* Y, int nY, int p, double* PredY, int DF) {
+  const InTable obs(Y, nY, p, Cells::KeepAll);
+  const InTable pred(PredY, nY, p, Cells::KeepAll);
+  return RMSE(obs, nY, p, pred, DF);
 }

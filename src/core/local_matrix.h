@@ -1,11 +1,12 @@
-// A matrix for the time of one call. Internal.
+// Matrices for the time of one call. Internal.
 #pragma once
 
 #include <cstddef>
 
 #include "core/matrix.h"
 
-/// Where the arrays of a small LocalMatrix lie. Not initialized: what is not used costs nothing.
+/// Where the arrays of a small matrix lie. Not initialized: what is not used costs nothing. Macros call with
+/// ten rows as often as with a million, and of a small matrix the allocator would be most of the cost.
 class LocalRoom {
  protected:
   matrix::Room room() { return {memory_, sizeof memory_}; }
@@ -15,11 +16,10 @@ class LocalRoom {
   alignas(16) std::byte memory_[2048];
 };
 
-/// A matrix, read only, that a call makes from a macro's array. Macros call with ten rows as often as with a
-/// million. Of a small one the allocator would be most of the cost: its arrays lie inside the object. Of a
-/// large one the copy and its fresh pages would be: the macro's memory serves as values where no cell is
-/// missing or all are kept, and a vector then has no row weights (null), as many doubles again: workers take
-/// the weights of a vector as an argument.
+/// A matrix, read only, that a call makes from a macro's array. Of a large one the copy and its fresh pages
+/// would be most of the cost: the macro's memory serves as values where no cell is missing or all are kept,
+/// and a vector then has no row weights (null), as many doubles again: workers take the weights of a vector
+/// as an argument.
 class LocalMatrix : private LocalRoom, public matrix {
  public:
   LocalMatrix(int rows, int columns, const double* a, bool keepAll)
@@ -28,4 +28,16 @@ class LocalMatrix : private LocalRoom, public matrix {
   LocalMatrix(int rows, int columns, const short* a) : matrix(room(), rows, columns, a) {}
   LocalMatrix(const LocalMatrix&) = delete;
   LocalMatrix& operator=(const LocalMatrix&) = delete;
+};
+
+/// A matrix that a call lets a worker write to: a macro's array copied, or cells of 0.0.
+class LocalTarget : private LocalRoom, public matrix {
+ public:
+  LocalTarget(int rows, int columns) : matrix(room(), rows, columns, 0.0) {}
+  LocalTarget(int rows, int columns, const double* a, bool keepAll)
+      : matrix(room(), rows, columns, a, keepAll, Own()) {}
+  LocalTarget(int rows, int columns, const int* a, bool) : matrix(room(), rows, columns, a) {}
+  LocalTarget(int rows, int columns, const short* a, bool) : matrix(room(), rows, columns, a) {}
+  LocalTarget(const LocalTarget&) = delete;
+  LocalTarget& operator=(const LocalTarget&) = delete;
 };

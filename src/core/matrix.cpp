@@ -99,9 +99,7 @@ matrix::matrix(int rows, int columns) : matrix(rows, columns, 0.0) {}
 
 matrix::matrix(int rows, int columns, int v) : matrix(rows, columns, static_cast<double>(v)) {}
 
-matrix::matrix(int rows, int columns, double v) : matrix(kNoRoom, rows, columns) {
-  std::fill_n(values, addressing::cellCount(*this), v);
-}
+matrix::matrix(int rows, int columns, double v) : matrix(kNoRoom, rows, columns, v) {}
 
 matrix::matrix(int rows, int columns, const int* a) : matrix(kNoRoom, rows, columns, a) {}
 
@@ -112,12 +110,21 @@ matrix::matrix(int rows, int columns, const double* a, bool keepAll, int srcRows
   store(*this, a, a == nullptr ? 0 : addressing::cellsSupplied(rows, columns, srcRows, srcCols), keepAll);
 }
 
+matrix::matrix(Room room, int rows, int columns, double v) : matrix(room, rows, columns) {
+  std::fill_n(values, addressing::cellCount(*this), v);
+}
+
 matrix::matrix(Room room, int rows, int columns, const int* a) : matrix(room, rows, columns) {
   convertIntegers(*this, a);
 }
 
 matrix::matrix(Room room, int rows, int columns, const short* a) : matrix(room, rows, columns) {
   convertIntegers(*this, a);
+}
+
+matrix::matrix(Room room, int rows, int columns, const double* a, bool keepAll, Own)
+    : matrix(room, rows, columns) {
+  store(*this, a, a == nullptr ? 0 : addressing::cellCount(*this), keepAll);
 }
 
 matrix::matrix(Room room, int rows, int columns, const double* a, bool keepAll)

@@ -179,12 +179,17 @@ class KAV_API matrix {
  protected:
   // For containers that live as long as one call: the arrays go into room where they fit.
 
+  matrix(Room room, int rows, int columns, double v);
   matrix(Room room, int rows, int columns, const int* a);
   matrix(Room room, int rows, int columns, const short* a);
 
   /// Read only. The values may be a's own memory, where nothing in it has to be changed; there are no row
   /// weights then.
   matrix(Room room, int rows, int columns, const double* a, bool keepAll);
+
+  /// The same with values of its own.
+  struct Own {};
+  matrix(Room room, int rows, int columns, const double* a, bool keepAll, Own);
 
  private:
   /// Everything but the values, or with values that lie elsewhere.

@@ -63,7 +63,8 @@ void matrix::copyMatTo(double* out, int* rows, int* cols) const {
 }
 
 void matrix::copyMatTo(int* out) const {
-  if (out != nullptr) std::transform(values, values + addressing::cellCount(*this), out, truncateToInt);
+  if (out != nullptr)
+    std::transform(values, values + addressing::cellCount(*this), out, scalar::truncateToInt);
 }
 
 void matrix::copyMatTo(short* out) const {

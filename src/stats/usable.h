@@ -1,34 +1,108 @@
 // Which cells of a vector a statistic uses: each rule once, by name. Internal.
+//
+//     A  PresentAndWeighted   not excluded, present, weight not exactly 0.0
+//     B  PresentNotExcluded   not excluded, present
+//     C  WeightedNotExcluded  not excluded, weight not exactly 0.0
+//     D  NotExcluded          not excluded
+//     E  Present              present: flag clear and value not the marker
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <string_view>
 
+#include "core/Smatrix.h"
 #include "core/block.h"
 
 namespace usable {
 
-/// A: not excluded, present (flag clear, value not the marker), weight not exactly 0.0.
-struct PresentAndWeighted {
-  const double* x;
-  const char* flagged;
-  const short* exclude;
-  const double* w;
+/// The first n cells of a vector, with their flags.
+class Cells {
+ public:
+  Cells(const matrix* x, int n) : values_(x, n), flags_(x, n) {}
 
-  bool operator()(std::ptrdiff_t i) const {
-    return exclude[i] == 0 && flagged[i] == 0 && !isMarker(x[i]) && w[i] != 0.0;
-  }
+  double operator[](std::ptrdiff_t i) const { return values_[i]; }
+  const double* values() const { return values_.data(); }
+  const char* flags() const { return flags_.data(); }
+
+ private:
+  block::Values values_;
+  block::Flags flags_;
 };
 
-/// D: not excluded; whether the cell is missing is not looked at.
-struct NotExcluded {
-  const short* exclude;
+struct Present {
+  explicit Present(const Cells& cells) : x(cells.values()), flagged(cells.flags()) {}
+  bool operator()(std::ptrdiff_t i) const { return flagged[i] == 0 && !isMarker(x[i]); }
 
+  const double* x;
+  const char* flagged;
+};
+
+struct NotExcluded {
+  explicit NotExcluded(const short* flags) : exclude(flags) {}
   bool operator()(std::ptrdiff_t i) const { return exclude[i] == 0; }
+
+  const short* exclude;
 };
 
 /// D where nothing is excluded.
 struct Every {
   bool operator()(std::ptrdiff_t) const { return true; }
 };
+
+struct Weighted {
+  explicit Weighted(const block::Values& weights) : w(weights.data()) {}
+  bool operator()(std::ptrdiff_t i) const { return w[i] != 0.0; }
+
+  const double* w;
+};
+
+struct PresentNotExcluded : NotExcluded, Present {
+  PresentNotExcluded(const Cells& cells, const short* exclusion) : NotExcluded(exclusion), Present(cells) {}
+  bool operator()(std::ptrdiff_t i) const { return NotExcluded::operator()(i) && Present::operator()(i); }
+};
+
+struct WeightedNotExcluded : NotExcluded, Weighted {
+  WeightedNotExcluded(const short* exclusion, const block::Values& weights)
+      : NotExcluded(exclusion), Weighted(weights) {}
+  bool operator()(std::ptrdiff_t i) const { return NotExcluded::operator()(i) && Weighted::operator()(i); }
+};
+
+struct PresentAndWeighted : PresentNotExcluded, Weighted {
+  PresentAndWeighted(const Cells& cells, const short* exclusion, const block::Values& weights)
+      : PresentNotExcluded(cells, exclusion), Weighted(weights) {}
+  bool operator()(std::ptrdiff_t i) const {
+    return PresentNotExcluded::operator()(i) && Weighted::operator()(i);
+  }
+};
+
+/// Calls visit(i) for the cells that a rule uses, in index order.
+template <class Rule, class Visit>
+void forEach(int n, Rule rule, Visit visit) {
+  for (int i = 0; i < n; ++i) {
+    if (rule(i)) visit(i);
+  }
+}
+
+/// A label of a vector of strings; empty, as a missing one is, outside.
+inline std::u16string_view labelAt(const Smatrix* labels, std::ptrdiff_t i) {
+  if (labels == nullptr || !addressing::isInside(*labels, i)) return {};
+  return labels->cells[i];
+}
+
+/// A 1-based inclusive range cut to 1 .. n, as 0-based [begin, end).
+struct Range {
+  Range(int n, int from, int to)
+      : begin(std::min(std::max(from, 1) - 1, std::max(n, 0))), end(std::max(std::min(to, n), begin)) {}
+
+  int begin;
+  int end;
+};
+
+/// Whether the arrays that a statistic cannot do without are there; an empty vector needs none.
+template <class... Arrays>
+bool given(int n, const Arrays*... arrays) {
+  return n < 1 || (... && (arrays != nullptr));
+}
 
 }  // namespace usable

@@ -2,11 +2,107 @@
 
 #include <algorithm>
 
-#include "core/block.h"
+#include "core/results.h"
+#include "platform/scalar.h"
+#include "stats/usable.h"
+#include "stats/vector_sums.h"
+
+namespace {
+
+template <class Test>
+bool everyCell(const matrix* x, int n, Test test) {
+  const block::Values cells(x, n);
+  return std::all_of(cells.data(), cells.data() + std::max(n, 0), test);
+}
+
+bool isIn(double x, double lower, double upper, bool strictly) {
+  return strictly ? x > lower && x < upper : x >= lower && x <= upper;
+}
+
+template <class IsMissing>
+void missingOrExcluded(int n, const short* exclude, matrix*& out, IsMissing isMissing) {
+  results::prepare(out, n, 1);
+  block::Target flags(out, n);
+  for (int i = 0; i < n; ++i) {
+    flags[i] = asFlag((exclude != nullptr && exclude[i] != 0) || isMissing(i));
+  }
+  flags.store();
+}
+
+}  // namespace
 
 short V_IsConstant(const matrix* x, int n) {
   if (n < 2) return kTrue;
   const block::Values cells(x, n);
   const double first = cells[0];
   return asFlag(std::all_of(cells.data() + 1, cells.data() + n, [=](double cell) { return cell == first; }));
+}
+
+short V_Is01(const matrix* x, int n) {
+  return asFlag(everyCell(x, n, [](double cell) { return cell == 0.0 || cell == 1.0; }));
+}
+
+short V_IsWeights(const matrix* x, int n) { return asFlag(V_Sum2(x, n) > 0.0); }
+
+short V_IsCWeights(const matrix* x, int n) {
+  return asFlag(V_IsWeights(x, n) == kTrue && everyCell(x, n, scalar::IsLong));
+}
+
+short V_IsIndicator(const matrix* x, int n) {
+  return asFlag(V_IsWeights(x, n) == kTrue && V_Is01(x, n) == kTrue);
+}
+
+short V_IsPositive(const matrix* x, int n, short strictly) {
+  return asFlag(strictly == kTrue ? everyCell(x, n, [](double cell) { return cell > 0.0; })
+                                  : everyCell(x, n, [](double cell) { return cell >= 0.0; }));
+}
+
+short V_IsSorted(const matrix* x, int n, short strictly) {
+  const usable::Cells cells(x, n);
+  const double* before = nullptr;
+  bool sorted = true;
+  usable::forEach(n, usable::Present(cells), [&](int i) {
+    const double* cell = cells.values() + i;
+    if (before != nullptr) sorted = sorted && (strictly == kTrue ? *before < *cell : *before <= *cell);
+    before = cell;
+  });
+  return asFlag(sorted);
+}
+
+short V_IsInInterval(const matrix* x, int n, double lower, double upper, short strictly,
+                     short ignoreMissing) {
+  const usable::Cells cells(x, n);
+  const usable::Present present(cells);
+  for (int i = 0; i < n; ++i) {
+    const bool holds = present(i) ? isIn(cells[i], lower, upper, strictly == kTrue) : ignoreMissing == kTrue;
+    if (!holds) return kFalse;
+  }
+  return kTrue;
+}
+
+short V_V1inferiorV2(const matrix* x, int n, const matrix* y) { return V_V1GreaterThanMatCols(y, n, x, 1); }
+
+short V_V1GreaterThanMatCols(const matrix* w, int n, const matrix* y, int p) {
+  const usable::Cells bounds(w, n);
+  const usable::Present bounded(bounds);
+  const block::Values cells(y, n, p);
+  const block::Flags flags(y, n, p);
+  for (int j = 0; j < p; ++j) {
+    for (int i = 0; i < n; ++i) {
+      const double cell = cells[i + cells.stride() * j];
+      const bool present = !flags[i + flags.stride() * j] && !isMarker(cell);
+      if (!present || !bounded(i) || !(bounds[i] > cell)) return kFalse;
+    }
+  }
+  return kTrue;
+}
+
+void V_GetMissingDbl(const matrix* x, int n, const short* exclude, matrix*& out) {
+  const usable::Cells cells(x, n);
+  const usable::Present present(cells);
+  missingOrExcluded(n, exclude, out, [&](int i) { return !present(i); });
+}
+
+void V_GetMissingStr(const Smatrix* x, int n, const short* exclude, matrix*& out) {
+  missingOrExcluded(n, exclude, out, [&](int i) { return usable::labelAt(x, i).empty(); });
 }

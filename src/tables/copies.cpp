@@ -8,6 +8,14 @@
 
 int V_SetToValue(matrix*& v, int n, double x) { return SetVectorToValue(v, n, x); }
 
+int V_Set1toN(matrix*& v, int n) {
+  matrix::matCheck(v, n, 1, 0.0);
+  block::Target target(v, n);
+  for (int i = 0; i < n; ++i) target[i] = i + 1.0;
+  target.store();
+  return 0;
+}
+
 void V_SetToValueStr(Smatrix*& v, int n, const std::u16string& s) {
   Smatrix::matCheck(v, n, 1);
   std::fill_n(v->cells, addressing::cellCount(*v), s);
@@ -39,5 +47,14 @@ void V_Reverse(const matrix* v, int n, matrix*& out) {
   matrix::matCheck(out, n, 1, 0.0);
   block::Target target(out, n);
   std::reverse_copy(source.data(), source.data() + std::max(n, 0), target.data());
+  target.store();
+}
+
+void V_RemoveVal(const matrix* v, int n, int position, matrix*& out) {
+  const block::Values source(v, n);
+  const int kept = std::max(n, 1) - 1;
+  matrix::matCheck(out, kept, 1, 0.0);
+  block::Target target(out, kept);
+  for (int i = 0; i < kept; ++i) target[i] = source[position >= 1 && i >= position - 1 ? i + 1 : i];
   target.store();
 }

@@ -15,6 +15,10 @@
 /// @return 0
 KAV_API int V_SetToValue(matrix*& v, int n, double x);
 
+/// Makes v the vector 1, 2 ... n (matCheck).
+/// @return 0
+KAV_API int V_Set1toN(matrix*& v, int n);
+
 /// Makes v a vector of n strings s.
 KAV_API void V_SetToValueStr(Smatrix*& v, int n, const std::u16string& s);
 
@@ -28,3 +32,7 @@ KAV_API void M_Duplicate(const Smatrix* a, int n, int p, Smatrix*& out);
 
 /// out = the first n cells of v (n x 1), last first.
 KAV_API void V_Reverse(const matrix* v, int n, matrix*& out);
+
+/// out = the first n cells of v without the one at position (1-based): n - 1 cells, the first ones when there
+/// is no such position.
+KAV_API void V_RemoveVal(const matrix* v, int n, int position, matrix*& out);

@@ -37,11 +37,11 @@ TEST(Guard, EntriesWork) {
 
 TEST(Scalar, TruncationIsDefinedForEveryDouble) {
   constexpr int lowest = std::numeric_limits<int>::min();
-  EXPECT_EQ(truncateToInt(2.999), 2);
-  EXPECT_EQ(truncateToInt(-2.999), -2);
-  EXPECT_EQ(truncateToInt(2147483647.9), 2147483647);
-  EXPECT_EQ(truncateToInt(-2147483648.9), lowest);
-  EXPECT_EQ(truncateToInt(2147483648.0), lowest);
-  EXPECT_EQ(truncateToInt(-1e300), lowest);
-  EXPECT_EQ(truncateToInt(std::numeric_limits<double>::quiet_NaN()), lowest);
+  EXPECT_EQ(scalar::truncateToInt(2.999), 2);
+  EXPECT_EQ(scalar::truncateToInt(-2.999), -2);
+  EXPECT_EQ(scalar::truncateToInt(2147483647.9), 2147483647);
+  EXPECT_EQ(scalar::truncateToInt(-2147483648.9), lowest);
+  EXPECT_EQ(scalar::truncateToInt(2147483648.0), lowest);
+  EXPECT_EQ(scalar::truncateToInt(-1e300), lowest);
+  EXPECT_EQ(scalar::truncateToInt(std::numeric_limits<double>::quiet_NaN()), lowest);
 }

@@ -149,3 +149,51 @@ TEST(VectorSums, NotANumberGoesThrough) {
   EXPECT_TRUE(std::isnan(V_Mean(&x, 2, none, &ones)));
   EXPECT_TRUE(std::isnan(V_Mean(&ones, 2, none, &w)));
 }
+
+TEST(VectorSums, OtherSumsAndCountsEqualTheirDefinition) {
+  Random random(21);
+  for (int round = 0; round < 60; ++round) {
+    const int n = round % 3 == 0 ? 65 : round / 5;
+    const std::vector<double> xCells = mixedCells(random, n), yCells = mixedCells(random, n);
+    const std::vector<short> none(xCells.size());
+    matrix x(n, 1, xCells.data(), round % 2 == 0, 0, 0), y(n - round % 2, 1, yCells.data(), false, 0, 0);
+    x.setMissing(random.below(n + 1), true);  // keeps its value
+    const double value = round % 4 < 2 ? 0.0 : -1.0;
+    const int from = random.below(n + 4) - 2, to = random.below(n + 4) - 1;
+    // SumSq, SumSqW, DiffSq, ProductTrV1V2, SumFromTo, MeanAbs, NbIf, SumIf, NbMissing, NbTrueFromTo
+    std::vector<double> sums(10);
+    double total = 0.0;
+    for (int i = 0; i < n; ++i) {
+      const double a = x.getElement(i), b = y.getElement(i);
+      const bool present = !x.getMissing(i), inRange = i + 1 >= from && i + 1 <= to;
+      const bool met = present && !y.getMissing(i) && b == value, weighted = present && b != 0.0;
+      const double terms[] = {present ? a * a : 0.0,
+                              present ? b * (a * a) : 0.0,
+                              (a - b) * (a - b),
+                              a * b,
+                              inRange ? a : 0.0,
+                              weighted ? std::fabs(a) * b : 0.0,
+                              present && a == value ? 1.0 : 0.0,
+                              met ? a : 0.0,
+                              a <= kMissing || !present ? 1.0 : 0.0,
+                              inRange && a != 0.0 ? 1.0 : 0.0};
+      for (std::size_t k = 0; k < 10; ++k) sums[k] += terms[k];
+      if (weighted) total += b;
+    }
+    sums[5] /= total;
+    if (n < 1) sums[7] = kMissing;
+    const int missing = V_NbMissing(&x, n), nonZero = V_NbTrueFromTo(&x, n, from, to);
+    EXPECT_TRUE(
+        bits::equal({V_SumSq(&x, n), V_SumSqW(&x, n, &y), V_DiffSq(&x, n, &y), V_ProductTrV1V2(&x, n, &y),
+                     V_SumFromTo(&x, n, from, to), V_MeanAbs(&x, n, none.data(), &y), V_NbIf(&x, n, value),
+                     V_SumIf(&x, n, &y, value), missing + 0.0, nonZero + 0.0},
+                    sums));
+    EXPECT_EQ(V_NbNonMissing(&x, n), n - missing);
+  }
+  const double cells[] = {2.5, 99.0, 4.5, kMissing, 8.0}, groups[] = {4.0, 6.0, 4.0, 4.0, 4.0};
+  const matrix x(5, 1, cells, false, 0, 0), group(5, 1, groups, false, 0, 0);
+  EXPECT_EQ(V_MeanIf(&x, 5, &group, 4.0), 5.0);
+  EXPECT_DOUBLE_EQ(V_VarIf(&x, 5, &group, 4.0, 1), 7.75);
+  EXPECT_EQ(V_VarIf(&x, 5, &group, 6.0, 0), kMissing);
+  EXPECT_EQ(V_VarIf(&x, 5, &group, 6.0, -1), 0.0);
+}

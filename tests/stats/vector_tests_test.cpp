@@ -4,6 +4,8 @@
 
 #include <climits>
 #include <cmath>
+#include <string>
+#include <vector>
 
 TEST(VectorTests, ConstantMeansExactlyEqual) {
   const double cells[] = {2.385, 2.385, std::nextafter(2.385, 3.0)}, zeros[] = {0.0, -0.0},
@@ -32,4 +34,42 @@ TEST(VectorTests, CellsPastTheEndReadMinusOne) {
   const matrix x(2, 1, -1.0), y(2, 1, 3.5);
   EXPECT_EQ(V_IsConstant(&x, 4), -1);
   EXPECT_EQ(V_IsConstant(&y, 3), 0);
+}
+
+TEST(VectorTests, CellsAndTheirOrder) {
+  // Is01, IsWeights, IsCWeights, IsIndicator, IsPositive and strictly, IsSorted and strictly
+  const struct {
+    std::vector<double> cells;
+    const char* expected;
+  } cases[] = {{{0, 1, 1}, "tttttftf"},
+               {{0, -0.0}, "tffftftf"},
+               {{0.5, 1, 7}, "ftfftttt"},
+               {{-1, 3}, "fttffftt"},
+               {{1, kMissing, 2}, "fffffftt"},
+               {{0x1p60}, "ftfftttt"},
+               {{NAN}, "fffffftt"},
+               {{}, "tffftttt"}};
+  for (const auto& c : cases) {
+    const int n = static_cast<int>(c.cells.size());
+    const matrix x(n, 1, c.cells.data(), true, 0, 0);
+    std::string actual;
+    for (const short t :
+         {V_Is01(&x, n), V_IsWeights(&x, n), V_IsCWeights(&x, n), V_IsIndicator(&x, n),
+          V_IsPositive(&x, n, 1), V_IsPositive(&x, n, -1), V_IsSorted(&x, n, 1), V_IsSorted(&x, n, -1)}) {
+      actual += t == -1 ? 't' : t == 0 ? 'f' : '?';
+    }
+    EXPECT_EQ(actual, c.expected);
+  }
+}
+
+TEST(VectorTests, Bounds) {
+  const double cells[] = {0.5, 2.385, kMissing, 4.5}, bounds[] = {0.6, 4.5, 9.0, 4.6};
+  const matrix x(4, 1, cells, false, 0, 0), w(4, 1, bounds, false, 0, 0);
+  EXPECT_EQ(V_IsInInterval(&x, 2, 0.5, 2.385, 1, 0), -1);
+  EXPECT_EQ(V_IsInInterval(&x, 2, 0.4, 2.385, -1, 0), 0);
+  EXPECT_EQ(V_IsInInterval(&x, 4, 0.4, 4.6, -1, 1), 0);
+  EXPECT_EQ(V_IsInInterval(&x, 4, 0.4, 4.6, -1, -1), -1);
+  EXPECT_EQ(V_V1inferiorV2(&x, 2, &w), -1);
+  EXPECT_EQ(V_V1inferiorV2(&x, 3, &w), 0);
+  EXPECT_EQ(V_V1GreaterThanMatCols(&w, 2, &w, 1), 0);
 }

@@ -100,3 +100,14 @@ TEST(Copies, SizesBelowOneMeanNoCells) {
     EXPECT_EQ(texts.container->getElement(0), u"");
   }
 }
+
+TEST(Copies, CountedAndShortenedVectors) {
+  const matrix v(6, 1, kCells, true, 0, 0);
+  Result<matrix> vector;
+  EXPECT_EQ(V_Set1toN(vector.container, 3), 0);
+  EXPECT_TRUE(bits::equal(cellsOf(*vector.container), {1.0, 2.0, 3.0}));
+  V_RemoveVal(&v, 4, 1, vector.container);
+  EXPECT_TRUE(bits::equal(cellsOf(*vector.container), {kMissing, -0.0, 4.25}));
+  V_RemoveVal(&v, 4, INT_MIN, vector.container);
+  EXPECT_TRUE(bits::equal(cellsOf(*vector.container), {2.385, kMissing, -0.0}));
+}

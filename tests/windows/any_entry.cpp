@@ -65,8 +65,10 @@ void AnyArguments::add(const macro::Parameter& parameter) {
         arguments_.emplace_back(0.385);
         break;
       }
-      doubles_.emplace_back(cells_);
-      for (std::size_t k = 0; k < cells_; ++k) {
+      // A result may be a table of rows x rows.
+      doubles_.emplace_back(parameter.name.front() == L'o' ? static_cast<std::size_t>(rows_ * rows_) + cells_
+                                                           : cells_);
+      for (std::size_t k = 0; k < doubles_.back().size(); ++k) {
         doubles_.back()[k] = 2.385 + 0.75 * seed + static_cast<double>((k * 7) % 11) * 0.618;
       }
       if (missing_) doubles_.back()[5] = -1.79769313486231E+308;

@@ -9,14 +9,125 @@ namespace entries {
 /// Weighted sum of the cells whose flag is 0; a missing cell counts as 0.
 double VB_V_Sum(double* iVector, int n, VARIANT_BOOL* iMissing, double* w);
 
+/// Writes the smallest and largest unflagged value to VMin and VMax, the missing-value marker if all are
+/// flagged. Missing cells are passed over, except as first unflagged cell.
+void VB_V_MinMax(double* iVector, int n, double* VMin, double* VMax, VARIANT_BOOL* iMissing);
+
+/// Smallest value of the cells whose flag is 0; the missing-value marker when there is none or when the
+/// first of them is missing.
+double VB_V_Min(double* iVector, int n, VARIANT_BOOL* iMissing);
+
+/// Largest value of the cells whose flag is 0, missing cells passed over; the missing-value marker when
+/// there is none.
+double VB_V_Max(double* iVector, int n, VARIANT_BOOL* iMissing);
+
+/// Largest integer among the cells whose flag is 0; 0 when there is none.
+int VB_V_MaxInt(int* iVector, int n, VARIANT_BOOL* iMissing);
+
+/// Adds ival in place to every cell of iVector whose flag is 0; flagged cells become missing and missing
+/// cells stay missing.
+void VB_V_PlusVal(double* iVector, int n, double ival, VARIANT_BOOL* iMissing);
+
+/// Scalar product of iV1 and iV2; a missing cell is multiplied by its value and so shows in the result.
+double VB_V_ProductTrV1V2(double* iV1, int n, double* iV2);
+
 /// Weighted mean of the usable cells (flag 0, not missing, weight not 0); NaN when there is none.
 double VB_V_Mean(double* iVector, int n, VARIANT_BOOL* iMissing, double* w);
+
+/// Weighted mean of the absolute values of the usable cells (flag 0, not missing, weight not 0); NaN when
+/// there is none.
+double VB_V_MeanAbs(double* iVector, int n, VARIANT_BOOL* iMissing, double* w);
+
+/// Total weight of the cells whose distance from iValue is strictly below iEpsilon; 0 when n is below 1.
+double VB_V_Freq(double* iVector, int n, double* w, double iValue, double iEpsilon);
+
+/// Total weight of the cells equal to iValue, truncated towards zero to an integer.
+int VB_V_FreqLng(int* iVector, int n, double* w, int iValue);
+
+/// Total weight of the labels exactly equal to iValue, upper and lower case told apart.
+double VB_V_FreqStr(BSTR* iVector, int n, double* w, BSTR iValue);
+
+/// Weighted variance of unflagged present cells, zero weights counted (NaN if the first is 0). Divisor:
+/// weight sum W; if Unbiased is -1, W - 1 with BiasIsOne -1, else W - W/count.
+double VB_V_Var(
+    double* iVector, int n, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Weighted standard deviation: the square root of what VB_V_Var gives for the same arguments.
+double VB_V_Stdev(
+    double* iVector, int n, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Writes weighted Mean and Var of the usable cells (flag 0, not missing, weight not 0). Var's divisor:
+/// weight sum W; if Unbiased is -1, W - 1 with BiasIsOne -1, else W - W/count.
+void VB_V_MeanVar(
+    double* iVector, int n, double* Mean, double* Var, VARIANT_BOOL* iMissing, double* w,
+    VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Writes weighted Mean and StDev of the usable cells (flag 0, not missing, weight not 0); StDev is the
+/// square root of the Var of VB_V_MeanVar for the same options.
+void VB_V_MeanStdev(
+    double* iVector, int n, double* Mean, double* StDev, VARIANT_BOOL* iMissing, double* w,
+    VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Returns the label with the largest total weight among the non-empty labels whose flag is 0; ties go to
+/// the first in string order, an empty string when there is none.
+BSTR VB_V_Mode(BSTR* iVector, int n, VARIANT_BOOL* iMissing, double* w);
+
+/// Sets oMissing to -1 where the label is empty or iMissing is not 0, to 0 elsewhere.
+void VB_V_GetMissingStr(BSTR* iVectMat, int n, VARIANT_BOOL* iMissing, VARIANT_BOOL* oMissing);
+
+/// Weighted harmonic mean of the cells whose flag is 0, negative ones included; the missing-value marker
+/// as soon as one of them is 0, NaN when all are flagged.
+double VB_V_HarmonicMean(double* iVector, int n, VARIANT_BOOL* iMissing, double* w);
+
+/// Sets oMissing to -1 where the cell is missing or iMissing is not 0, to 0 elsewhere.
+void VB_V_GetMissingDbl(double* iVector, int n, VARIANT_BOOL* iMissing, VARIANT_BOOL* oMissing);
+
+/// -1 when no cell is below 0 (every cell is above 0 if iStrictly is -1), else 0; there is no test for
+/// missing cells.
+VARIANT_BOOL VB_V_IsPositive(double* iV, int n, VARIANT_BOOL iStrictly);
+
+/// -1 when the sum of the cells is above 0, else 0; single cells are not checked.
+VARIANT_BOOL VB_V_IsWeights(double* iW, int nW);
+
+/// -1 when the sum of the cells is above 0 and every cell is a whole number, else 0.
+VARIANT_BOOL VB_V_IsCWeights(double* iW, int nW);
+
+/// -1 when every cell is exactly 0 or 1 and at least one is 1, else 0.
+VARIANT_BOOL VB_V_IsIndicator(double* iV, int nV);
+
+/// -1 when every cell is exactly 0 or 1, also when there is no cell, else 0.
+VARIANT_BOOL VB_V_Is01(double* iV, int nV);
+
+/// Number of missing cells.
+int VB_V_NbMissing(double* iVector, int n);
+
+/// Number of empty strings, which stand for missing labels.
+int VB_V_NbMissingStr(BSTR* iVector, int n);
+
+/// Number of cells that are not missing; n itself when n is below 1.
+int VB_V_NbNonMissing(double* iVector, int n);
 
 /// Unweighted sum of all n cells; a missing cell counts as 0.
 double VB_V_Sum2Dbl(double* iVector, int n);
 
 /// Sum of all n integers.
 int VB_V_Sum2Lng(int* iVector, int n);
+
+/// Quantile of all n cells for Prob (0 to 1), interpolated at rank 1 + (n - 1) * Prob (1-based); missing
+/// cells take part and sort first. -1 when n is below 1.
+double VB_V_Quantile(double* X, int n, double Prob);
+
+/// Weighted quantile of all n cells for Prob (0 to 1), VB_V_Quantile if all weights are equal; missing
+/// cells sort first. The missing-value marker if no present cell weighs above 0.
+double VB_V_QuantileW(double* X, int n, double* w, double Prob);
+
+/// Quantile for Prob (0 to 1), interpolated, of the cells whose flag is 0 and that are not missing; the
+/// missing-value marker when there is none.
+double VB_V_QuantileM(double* X, int n, VARIANT_BOOL* missing, double Prob);
+
+/// Weighted quantile for Prob (0 to 1), as VB_V_QuantileW, of the cells whose flag is 0 and that are not
+/// missing; the missing-value marker when none has a weight above 0.
+double VB_V_QuantileMW(double* X, int n, VARIANT_BOOL* missing, double* w, double Prob);
 
 /// Copies the n cells of iVect to oVect, missing cells included.
 void VB_V_DuplicateDbl(double* iVect, int n, double* oVect);
@@ -27,8 +138,118 @@ void VB_V_DuplicateLng(int* iVect, int n, int* oVect);
 /// Copies the n strings of iVect to oVect as new strings; former strings of oVect are not freed.
 void VB_V_DuplicateStr(BSTR* iVect, int n, BSTR* oVect);
 
+/// -1 when all n cells are exactly equal or n is below 2, else 0; a missing cell is compared by its
+/// value.
+VARIANT_BOOL VB_V_IsConstant(double* iVect, int n);
+
 /// -1 when all n flags are equal or n is below 2, else 0.
 VARIANT_BOOL VB_V_IsConstantBool(VARIANT_BOOL* iVect, int n);
+
+/// Copies iVect without its cell ID (1-based) to oVect, which receives n - 1 cells.
+void VB_V_RemoveVal(double* iVect, int n, int ID, double* oVect);
+
+/// Number of true flags among the n flags.
+int VB_V_NbTrue(VARIANT_BOOL* iVect, int n);
+
+/// Sum of the cells iFrom to iTo (1-based, inclusive, cut to 1 to n); a missing cell counts as 0.
+double VB_V_SumFromTo(double* iVect, int n, int iFrom, int iTo);
+
+/// Sum of the integers in cells iFrom to iTo (1-based, inclusive, cut to 1 to n).
+int VB_V_SumFromToLng(int* iVect, int n, int iFrom, int iTo);
+
+/// Writes Mean, Var, skewness and excess kurtosis of population (SkewP, KurtP) and sample (SkewF, KurtF),
+/// missing-value markers if impossible. A missing unflagged cell counts as 0.
+void VB_V_MeanVarSkewPKurtP(
+    double* iVector, int n, double* Mean, double* Var, double* SkewP, double* KurtP, double* SkewF,
+    double* KurtF, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Weighted median of the absolute deviations from iMedian, unscaled, over the cells whose flag is 0 and
+/// that are not missing; the missing-value marker when there is none.
+double VB_V_MedianAbsDev(double* iVector, int n, double iMedian, VARIANT_BOOL* iMissing, double* w);
+
+/// Weighted mean of the absolute deviations from iMean over the cells whose flag is 0, missing cells not
+/// skipped; NaN when all are flagged.
+double VB_V_MeanAbsDev(double* iVector, int n, double iMean, VARIANT_BOOL* iMissing, double* w);
+
+/// Writes weighted geometric mean and geometric standard deviation of the unflagged cells; both are the
+/// missing-value marker if one is not above 0, oGSD alone if its divisor is 0.
+void VB_V_GMeanGSD(double* iVector, int n, VARIANT_BOOL* iMissing, double* w, double* oGMean, double* oGSD);
+
+/// Writes the cells standardized by the weighted mean and deviation of the usable ones to oVector, 0 when
+/// the deviation is 0. Flagged and missing cells give the missing-value marker.
+void VB_V_Standardize(
+    double* iVector, int n, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, double* oVector);
+
+/// Standardizes iVector in place by the weighted mean and deviation of its usable cells; 0 when the
+/// deviation is 0. Flagged and missing cells become the missing-value marker.
+void VB_V_Standardize2(double* iVector, int n, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased);
+
+/// Writes the usable cells, mapped linearly onto iLowerBound to iUpperBound, to oVector; constant values
+/// give iLowerBound, flagged and missing cells the missing-value marker.
+void VB_V_Rescale(
+    double* iVector, int n, double iLowerBound, double iUpperBound, VARIANT_BOOL* iMissing, double* oVector);
+
+/// Maps the usable cells of iVector linearly onto iLowerBound to iUpperBound in place; constant values
+/// give iLowerBound, flagged and missing cells the missing-value marker.
+void VB_V_Rescale2(double* iVector, int n, double iLowerBound, double iUpperBound, VARIANT_BOOL* iMissing);
+
+/// Writes every product iVect1(a) * iVect2(b) to cell (a - 1) * p2 + b of oVect (1-based), p1 * p2 cells
+/// in all.
+void VB_V_ProductHorizV1V2(double* iVect1, int p1, double* iVect2, int p2, double* oVect, int p);
+
+/// Replaces ioVect1 by its products with iVect2, ioVect1(a) * iVect2(b) in cell (a - 1) * p2 + b, and
+/// sets iop1 to iop1 * p2; ioVect1 needs room for them.
+void VB_V_ProductHorizV1V22(double* ioVect1, int* iop1, double* iVect2, int p2);
+
+/// -1 when w(i) is greater than Y(i, j) in every row i and column j of the n by p table Y, else 0.
+VARIANT_BOOL VB_V_V1GreaterThanMatCols(double* w, int n, double* Y, int p);
+
+/// Sum of the squares of the cells that are not missing; 0 when there is none.
+double VB_V_SumSq(double* iVect, int n);
+
+/// Weighted sum of the squares of the cells that are not missing; 0 when there is none.
+double VB_V_SumSqW(double* iVect, int n, double* w);
+
+/// Divides iVect in place by its Euclidean norm; missing cells stay missing and are left out of the norm.
+/// A norm of 0 gives NaN.
+void VB_V_Norm(double* iVect, int n);
+
+/// Rescales iVect in place so that its Euclidean norm becomes ival; missing cells stay missing. A norm of
+/// 0 is not guarded against and gives NaN.
+void VB_V_NormToVal(double* iVect, int n, double ival);
+
+/// Divides iVect in place by the square root of its weighted sum of squares; missing cells stay missing.
+/// A norm of 0 is not guarded against.
+void VB_V_NormW(double* iVect, int n, double* w);
+
+/// Rescales iVect in place so that the square root of its weighted sum of squares becomes ival; missing
+/// cells stay missing. A norm of 0 is not guarded against.
+void VB_V_NormToValW(double* iVect, int n, double ival, double* w);
+
+/// Fills oVect with 1, 2, ..., n.
+void VB_V_Set1toNDbl(double* oVect, int n);
+
+/// Fills oVect with the integers 1, 2, ..., n.
+void VB_V_Set1toNLng(int* oVect, int n);
+
+/// Writes the dense ranks of the n cells to oRanks as integers: 1 for the smallest, equal values share a
+/// rank, the next value is one more. A missing cell ranks first.
+void VB_V_GetRanksLng(double* iVect, int n, int* oRanks);
+
+/// Writes the dense ranks of the n cells to oRanks: 1 for the smallest, equal values share a rank, the
+/// next value is one more. A missing cell ranks first.
+void VB_V_GetRanksDbl(double* iVect, int n, double* oRanks);
+
+/// Writes row oX and column oY (oY < oX) of position iPos in the lower triangle without diagonal of an n
+/// by n table, packed row by row; all 1-based.
+void VB_V_GetPositionInMatNNm1o2(int iPos, int n, int* oX, int* oY);
+
+/// Writes row oX and column oY (oY <= oX) of position iPos in the lower triangle with diagonal of an n by
+/// n table, packed row by row; all 1-based.
+void VB_V_GetPositionInMatNNp1o2(int iPos, int n, int* oX, int* oY);
+
+/// Writes row oX and column oY of position iPos in an n by n table stored column by column; all 1-based.
+void VB_V_GetPositionInMatNN(int iPos, int n, int* oX, int* oY);
 
 /// Sets the n cells of oVector to iValue; returns 0.
 int VB_V_SetToValue(double* oVector, int n, double iValue);
@@ -36,17 +257,174 @@ int VB_V_SetToValue(double* oVector, int n, double iValue);
 /// Sets the n integers of oVector to iValue; returns 0.
 int VB_V_SetToValueLng(int* oVector, int n, int iValue);
 
+/// Makes the labels of LabelX unique in place: the second occurrence gets -2 appended, the third -3 and
+/// so on, or the next free number.
+void VB_V_ReplaceDoubles(BSTR* LabelX, int n);
+
+/// Copies iVect to oVect with iVal2 in place of every cell exactly equal to iVal1; the missing-value
+/// marker can be either value.
+void VB_V_ReplaceVal(double* iVect, int n, double iVal1, double iVal2, double* oVect);
+
+/// Replaces every cell of iVect exactly equal to iVal1 by iVal2 in place; the missing-value marker can be
+/// either value.
+void VB_V_ReplaceVal2(double* iVect, int n, double iVal1, double iVal2);
+
+/// Writes ranks to oRanks, the number of tie groups to oNbTiedVal and their sizes to oNbTies. Ties share
+/// their weighted mean rank, the first entering with the smallest value's weight.
+void VB_V_GetRanksTiesDbl(double* iVect1, int n, double* w, double* oRanks, int* oNbTiedVal, double* oNbTies);
+
+/// Writes ranks as VB_V_GetRanksTiesDbl to oRanks, the rank of each tie group rounded down to an integer;
+/// oNbTiedVal receives the number of groups, oNbTies their sizes.
+void VB_V_GetRanksTiesIntDbl(
+    double* iVect1, int n, double* w, double* oRanks, int* oNbTiedVal, double* oNbTies);
+
+/// Number of true flags in cells nStart to nEnd (1-based, inclusive, cut to 1 to n).
+int VB_V_NbTrueFromTo(VARIANT_BOOL* iVect, int n, int nStart, int nEnd);
+
+/// Returns the largest value that is not missing and writes its first position (1-based) to oMaxPos; the
+/// missing-value marker and position 0 when there is none.
+double VB_V_MaxAndMaxPos(double* iVect, int n, int* oMaxPos);
+
+/// Returns the smallest value that is not missing and writes its first position (1-based) to oMinPos; the
+/// missing-value marker and position 0 when there is none.
+double VB_V_MinAndMinPos(double* iVect, int n, int* oMinPos);
+
+/// Sum of the squared differences between iVect1 and iVect2, no cell skipped; 0 when n is below 1.
+double VB_V_DiffSq(double* iVect1, int n, double* iVect2);
+
+/// Multiplies ioVect1 in place by iVect2, cell by cell; a missing cell is multiplied by its value.
+void VB_V_ProductV1V22(double* ioVect1, int n, double* iVect2);
+
+/// Writes the products of iVect1 and iVect2, cell by cell, to oVect; a missing cell is multiplied by its
+/// value.
+void VB_V_ProductV1V2(double* iVect1, int n, double* iVect2, double* oVect);
+
+/// -1 when every cell of iVect1 is smaller than the same cell of iVect2, else 0.
+VARIANT_BOOL VB_V_V1inferiorV2(double* iVect1, int n, double* iVect2);
+
 /// Sets the n slots of oVect to new copies of ival; former strings are not freed.
 void VB_V_SetToValueStr(BSTR* oVect, int n, BSTR ival);
 
+/// Number of distinct values among the n cells, compared exactly; the missing-value marker counts as a
+/// value.
+int VB_V_NbDistinct(double* iVect, int n);
+
+/// Writes the distinct values of iVect in ascending order to the first k cells of oVect and their number
+/// to k; the missing-value marker counts as a value.
+void VB_V_ExtractDistinct(double* iVect, int n, double* oVect, int* k);
+
+/// Smallest positive difference between successive times in iVect, taken in ascending order if iDoSort is
+/// -1; the missing-value marker when there is none.
+double VB_V_TimeIntervalSize(double* iVect, int n, VARIANT_BOOL iDoSort);
+
+/// -1 when the cells never decrease (always increase if iStrictly is -1), else 0.
+VARIANT_BOOL VB_V_IsSorted(double* iVect, int n, VARIANT_BOOL iStrictly);
+
+/// Writes the n by n table of products iVect1(i) * iVect2(j) to row i and column j of oMat; a missing
+/// cell is multiplied by its value.
+void VB_V_ProductV1TrV2(double* iVect1, int n, double* iVect2, double* oMat);
+
+/// Copies iVect in reverse order to oVect, missing cells included.
+void VB_V_ReverseDbl(double* iVect, int n, double* oVect);
+
 /// Copies the flags of iVect in reverse order to oVect as 0 or -1.
 void VB_V_ReverseBool(VARIANT_BOOL* iVect, int n, VARIANT_BOOL* oVect);
+
+/// -1 when every cell lies between iLower and iUpper, bounds included (excluded if iStrictly is -1), else
+/// 0. A missing cell gives 0 unless iIgnoreMissing is -1.
+VARIANT_BOOL VB_V_IsInInterval(
+    double* iVect, int n, double iLower, double iUpper, VARIANT_BOOL iStrictly, VARIANT_BOOL iIgnoreMissing);
+
+/// Number of cells that are not missing and exactly equal to ival, as a double; 0 when n is below 1.
+double VB_V_NbIf(double* iVect, int n, double ival);
+
+/// Sum of the cells of iVect whose cell in iVect2 equals ival, both not missing; 0 when there is none,
+/// the missing-value marker when n is below 1.
+double VB_V_SumIf(double* iVect, int n, double* iVect2, double ival);
+
+/// Mean of the cells of iVect that are not missing and whose cell in iVect2 equals ival; the
+/// missing-value marker when there is none.
+double VB_V_MeanIf(double* iVect, int n, double* iVect2, double ival);
+
+/// Variance of the present cells of iVect whose cell in iVect2 equals ival, divided by count - 1, by
+/// count if iBiased is -1; the missing-value marker when it cannot be computed.
+double VB_V_VarIf(double* iVect, int n, double* iVect2, double ival, VARIANT_BOOL iBiased);
 
 /// Copies the table cell by cell into oMat (n x p); markers stay as they are.
 void VB_M_DuplicateDbl(double* iAMat, int n, int p, double* oMat);
 
 /// Copies the string table into oMat (n x p) as new strings; what the slots of oMat held is not freed.
 void VB_M_DuplicateStr(BSTR* iAMat, int n, int p, BSTR* oMat);
+
+/// Sorts cells iLowerBound to iUpperBound (1-based, inclusive) of ioVector in place, ascending, or
+/// descending when iSortdown is not 0; returns 0.
+int VB_SortQVectorLng(int* ioVector, int n, int iLowerBound, int iUpperBound, VARIANT_BOOL iSortdown);
+
+/// Sorts cells iLowerBound to iUpperBound (1-based) of ioVector in place, descending if iSortdown is not
+/// 0; returns 0. Missing-value markers count as smallest, NaN as largest.
+int VB_SortQVectorDbl(double* ioVector, int n, int iLowerBound, int iUpperBound, VARIANT_BOOL iSortdown);
+
+/// Sorts strings iLowerBound to iUpperBound (1-based) of ioVector by character code, descending if
+/// iSortdown is not 0; returns 0. Slots receive new strings, old ones are not freed.
+int VB_SortQVectorStr(BSTR* ioVector, int n, int iLowerBound, int iUpperBound, VARIANT_BOOL iSortdown);
+
+/// Sorts rows iLowerBound to iUpperBound (1-based) of ioMatrix by the values of column iCol (1-based),
+/// descending only if iSortdown is -1; ties keep their order. Returns 0.
+int VB_SortQMatrixCol(
+    double* ioMatrix, int n, int p, int iCol, int iLowerBound, int iUpperBound, VARIANT_BOOL iSortdown);
+
+/// Sorts the rows of iMat in place, ascending, by column 1, then by each next column the runs of
+/// neighbours equal within 1e-12 in the column before; earlier ones are not consulted.
+void VB_SortMatrixSeqQDbl(double* iMat, int n, int p);
+
+/// Sorts the rows of integers iMat in place, ascending, by column 1, then by each next column the runs of
+/// neighbours equal in the column before; earlier ones are not consulted.
+void VB_SortMatrixSeqQLng(int* iMat, int n, int p);
+
+/// Sorts rows iLowerBound to iUpperBound (1-based) of ioSlave and ioSlave2 stably by keys ioMaster,
+/// descending if iSortdown is -1; keys move too if updateMaster is -1. Returns 0.
+int VB_SortQDbl(
+    double* ioSlave, int n, int pSlave, int iLowerBound, int iUpperBound, double* ioMaster,
+    double* ioSlave2, int pSlave2, VARIANT_BOOL iSortdown, VARIANT_BOOL updateMaster);
+
+/// Sorts integer rows iLowerBound to iUpperBound (1-based) of ioSlave and ioSlave2 stably by keys
+/// ioMaster, descending if iSortdown is -1, keys too if updateMaster is -1. Returns 0.
+int VB_SortQLng(
+    int* ioSlave, int n, int pSlave, int iLowerBound, int iUpperBound, int* ioMaster, int* ioSlave2,
+    int pSlave2, VARIANT_BOOL iSortdown, VARIANT_BOOL updateMaster);
+
+/// Sorts rows iLowerBound to iUpperBound (1-based) of text ioSlave and of ioSlave2 stably by keys
+/// ioMaster, descending if iSortdown is -1, keys too if updateMaster is -1. Returns 0.
+int VB_SortQStr(
+    BSTR* ioSlave, int n, int pSlave, int iLowerBound, int iUpperBound, double* ioMaster, double* ioSlave2,
+    int pSlave2, VARIANT_BOOL iSortdown, VARIANT_BOOL updateMaster);
+
+/// Sorts rows iLowerBound to iUpperBound (1-based) of flags ioSlave and of ioSlave2 stably by keys
+/// ioMaster, descending if iSortdown is -1, keys too if updateMaster is -1. Returns 0.
+int VB_SortQBool(
+    VARIANT_BOOL* ioSlave, int n, int pSlave, int iLowerBound, int iUpperBound, double* ioMaster,
+    double* ioSlave2, int pSlave2, VARIANT_BOOL iSortdown, VARIANT_BOOL updateMaster);
+
+/// Sorts all rows of iSlave in place by the 0/1 key iMaster, zeros first, each group in its order;
+/// iMaster is sorted too. nOut and KeepInitialOrder are not used; returns 0.
+int VB_SortDataBy01(double* iSlave, int n, int p, double* iMaster, int nOut, VARIANT_BOOL KeepInitialOrder);
+
+/// Sorts all rows of strings iSlave in place by the 0/1 key iMaster, zeros first, each group in its
+/// order; iMaster is sorted too. nOut and KeepInitialOrder are not used; returns 0.
+int VB_SortDataBy01Str(BSTR* iSlave, int n, int p, double* iMaster, int nOut, VARIANT_BOOL KeepInitialOrder);
+
+/// Sorts all rows of flags iSlave in place by the 0/1 key iMaster, zeros first, each group in its order;
+/// iMaster is sorted too. nOut and KeepInitialOrder are not used; returns 0.
+int VB_SortDataBy01Bool(
+    VARIANT_BOOL* iSlave, int n, int p, double* iMaster, int nOut, VARIANT_BOOL KeepInitialOrder);
+
+/// Copies row iSortVect(r) of iMat (1-based) to row r of oMat for r = 1 to n; a row number outside 1 to n
+/// gives -1 in every cell.
+void VB_SortApply(double* iMat, int n, int p, double* iSortVect, double* oMat);
+
+/// Copies row iSortVect(r) of the strings iMat (1-based) to row r of oMat as new strings, for r = 1 to n;
+/// a row number outside 1 to n gives empty strings.
+void VB_SortApplyStr(BSTR* iMat, int n, int p, double* iSortVect, BSTR* oMat);
 
 /// Sets the n flags of oVector to 0; returns 0.
 int VB_InitVectorToFalse(VARIANT_BOOL* oVector, int n);
@@ -56,5 +434,27 @@ VARIANT_BOOL VB_IsMissingValueDbl(double iValue);
 
 /// -1 when iValue is the empty string, else 0; a string of blanks is not missing.
 VARIANT_BOOL VB_IsMissingValueStr(BSTR iValue);
+
+/// Returns the weighted linear correlation of two vectors over the rows without a flag, a missing cell or
+/// weight 0.0; 0.0 when a side is constant.
+double VB_CorrelPearson(
+    double* iVector1, double* iVector2, int n, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
+    VARIANT_BOOL BiasIsOne);
+
+/// Returns 100 times the weighted mean of abs(1 - YPred / Y) from position binf (1-based); missing cells
+/// and Y = 0 are left out, 0 when none is left. w may be null.
+double VB_MAPE(double* Y, double* YPred, int n, double* w, int binf);
+
+/// Returns the square root of sum((Y - PredY)^2) / DF over the nY rows of column p (1-based); rows with Y
+/// missing are left out.
+double VB_RMSE(double* Y, int nY, int p, double* PredY, int DF);
+
+/// Returns 100 times the weighted mean of (Y - YPred) / Y from position binf (1-based); markers and Y = 0
+/// are left out, the marker comes when none is left.
+double VB_MPE(double* Y, double* YPred, int n, double* w, int binf);
+
+/// Returns the weighted mean of abs(Y - YPred) from position binf (1-based); cells with the marker are
+/// left out, and the marker comes when none is left.
+double VB_MAE(double* Y, double* YPred, int n, double* w, int binf);
 
 }  // namespace entries

@@ -1,0 +1,120 @@
+#include "sort/rows.h"
+
+#include <algorithm>
+#include <cstring>
+#include <vector>
+
+#include "core/block.h"
+#include "core/scratch.h"
+#include "core/screening.h"
+
+namespace rows {
+
+using ordering::RowOrder;
+
+namespace {
+
+void gather(const double* before, const int* rows, int count, double* values) {
+  for (int k = 0; k < count; ++k) values[k] = before[rows[k]];
+}
+
+/// One column by the element rule.
+///
+/// @param before  scratch, in this and the next
+void move(double* values, const bool* flags, const int* rows, Scratch<double>& before) {
+  std::copy_n(values, before.size(), before.data());
+  const auto count = static_cast<int>(before.size());
+  if (std::memchr(flags, 1, before.size()) == nullptr) {
+    gather(before.data(), rows, count, values);
+    return;
+  }
+  for (int k = 0; k < count; ++k) {
+    if (!flags[k]) values[k] = before[rows[k]];
+  }
+}
+
+/// One column of which some cells are missing.
+void moveWithMissing(double* values, bool* flags, const int* rows, Scratch<double>& before) {
+  Scratch<bool> missing(before.size());
+  std::copy_n(flags, before.size(), missing.data());
+  std::copy_n(values, before.size(), before.data());
+  for (int k = 0; k < static_cast<int>(before.size()); ++k) {
+    flags[k] = missing[rows[k]] || isMarker(before[rows[k]]);
+    if (!flags[k]) values[k] = before[rows[k]];
+  }
+}
+
+void flagMarkers(const double* values, bool* flags, int count) {
+  for (int k = 0; k < count; ++k) flags[k] = flags[k] || isMarker(values[k]);
+}
+
+/// Rows beyond the table read -1.0, or run on into the next column.
+void permuteBeyond(matrix* table, int columns, const Span& span, const RowOrder& order) {
+  const block::Values before(table, span.last, columns);
+  block::Target target(table, span.last, columns);
+  Scratch<double> column(static_cast<std::size_t>(span.count()));
+  for (int j = 0; j < columns; ++j) {
+    std::copy_n(before.data() + before.stride() * j + span.first, span.count(), column.data());
+    gather(column.data(), order.rows(), span.count(), target.data() + target.stride() * j + span.first);
+  }
+  target.store();
+}
+
+}  // namespace
+
+Span::Span(int from, int to, int tableRows)
+    : first(std::min(std::max(from, 1) - 1, std::max(tableRows, 0))),
+      last(std::max(std::min(to, tableRows), first)) {}
+
+void permute(matrix* table, int columns, const Span& span, const RowOrder& order) {
+  if (table == nullptr || span.count() == 0 || columns < 1) return;
+  if (addressing::isInside(*table, span.first)) table->descValid = 0;
+  if (order.isInPlace()) return;
+  if (span.last > table->nX) {
+    permuteBeyond(table, columns, span, order);
+    return;
+  }
+  Scratch<double> before(static_cast<std::size_t>(span.count()));
+  for (int j = 0; j < std::min(columns, table->pX); ++j) {
+    const std::int64_t begin = addressing::linearIndex(span.first, j, table->nX);
+    move(table->values + begin, table->missing + begin, order.rows(), before);
+  }
+}
+
+void permuteColumn(matrix& table, int column, const Span& span, const RowOrder& order) {
+  const std::int64_t begin = addressing::linearIndex(span.first, column, table.nX);
+  Scratch<double> before(static_cast<std::size_t>(span.count()));
+  move(table.values + begin, table.missing + begin, order.rows(), before);
+}
+
+void permuteWithMissing(matrix* table, int columns, const Span& span, const RowOrder& order) {
+  if (table == nullptr || span.count() == 0) return;
+  Scratch<double> before(static_cast<std::size_t>(span.count()));
+  for (int j = 0; j < std::min(columns, table->pX); ++j) {
+    table->descValid = 0;
+    const std::int64_t begin = addressing::linearIndex(span.first, j, table->nX);
+    double* values = table->values + begin;
+    bool* flags = table->missing + begin;
+    const bool complete = !screening::anyMissing(values, flags, span.count());
+    if (order.isInPlace()) {
+      if (!complete) flagMarkers(values, flags, span.count());
+    } else if (complete) {
+      std::copy_n(values, span.count(), before.data());
+      gather(before.data(), order.rows(), span.count(), values);
+    } else {
+      moveWithMissing(values, flags, order.rows(), before);
+    }
+  }
+}
+
+void permute(Smatrix* table, int columns, const Span& span, const RowOrder& order) {
+  if (table == nullptr || order.isInPlace()) return;
+  std::vector<std::u16string> before(static_cast<std::size_t>(span.count()));
+  for (int j = 0; j < std::min(columns, table->pX); ++j) {
+    std::u16string* cells = table->cells + addressing::linearIndex(span.first, j, table->nX);
+    std::move(cells, cells + span.count(), before.begin());
+    for (int k = 0; k < span.count(); ++k) cells[k] = std::move(before[static_cast<std::size_t>(order[k])]);
+  }
+}
+
+}  // namespace rows

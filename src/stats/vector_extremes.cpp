@@ -1,0 +1,154 @@
+#include "stats/vector_extremes.h"
+
+#include <cmath>
+#include <functional>
+
+#include "core/screening.h"
+#include "platform/scalar.h"
+#include "stats/usable.h"
+
+namespace {
+
+struct Extremes {
+  explicit Extremes(double start) : min(start), max(start) {}
+
+  void seeLow(double x) {
+    if (x < min) min = x;
+  }
+  void seeHigh(double x) {
+    if (x > max) max = x;
+  }
+
+  double min;
+  double max;
+};
+
+/// Many cells at a time.
+class GroupedExtremes {
+ public:
+  /// Sees the given cells; leaves them alone and returns false when one is as low as the marker. NaN replaces
+  /// nothing, since the processor then gives the second operand.
+  template <int count>
+  bool see(const double* cells) {
+    static_assert(count % 4 == 0);
+    __m128d lowA = min_, lowB = min_, highA = max_, highB = max_;
+    for (int k = 0; k < count; k += 4) {
+      const __m128d a = _mm_loadu_pd(cells + k), b = _mm_loadu_pd(cells + k + 2);
+      lowA = _mm_min_pd(a, lowA);
+      lowB = _mm_min_pd(b, lowB);
+      highA = _mm_max_pd(a, highA);
+      highB = _mm_max_pd(b, highB);
+    }
+    const __m128d low = _mm_min_pd(lowA, lowB);
+    if (_mm_movemask_pd(_mm_cmple_pd(low, _mm_set1_pd(kMissing))) != 0) return false;
+    min_ = low;
+    max_ = _mm_max_pd(highA, highB);
+    return true;
+  }
+
+  void tell(Extremes& to) const {
+    to.seeLow(_mm_cvtsd_f64(min_));
+    to.seeLow(_mm_cvtsd_f64(_mm_unpackhi_pd(min_, min_)));
+    to.seeHigh(_mm_cvtsd_f64(max_));
+    to.seeHigh(_mm_cvtsd_f64(_mm_unpackhi_pd(max_, max_)));
+  }
+
+ private:
+  __m128d min_ = _mm_set1_pd(HUGE_VAL);
+  __m128d max_ = _mm_set1_pd(-HUGE_VAL);
+};
+
+bool isUsed(const short* exclude, std::ptrdiff_t i) { return exclude == nullptr || exclude[i] == 0; }
+
+/// @param exclude  null excludes nothing
+Extremes extremesOf(const matrix* x, int n, const short* exclude) {
+  const usable::Cells cells(x, n);
+  const usable::Present present(cells);
+  int start = 0;
+  while (start < n && !isUsed(exclude, start)) ++start;
+  if (start >= n) return Extremes(kMissing);
+
+  Extremes extremes(cells[start]);
+  GroupedExtremes grouped;
+  const auto see = [&](int begin, int end) {
+    for (int i = begin; i < end; ++i) {
+      if (!isUsed(exclude, i) || !present(i)) continue;
+      extremes.seeLow(cells[i]);
+      extremes.seeHigh(cells[i]);
+    }
+  };
+  const auto from = [exclude](int i) { return exclude == nullptr ? nullptr : exclude + i; };
+  const auto seeGroup = [&](int i) {
+    return screening::allUsed<screening::kGroup>(cells.flags() + i, from(i)) &&
+           grouped.see<screening::kGroup>(cells.values() + i);
+  };
+  const auto seeStretch = [&](int i) {
+    return screening::allUsed<screening::kStretch>(cells.flags() + i, from(i)) &&
+           grouped.see<screening::kStretch>(cells.values() + i);
+  };
+  int i = start + 1;
+  while (i < n) {
+    if (n - i >= screening::kStretch && seeStretch(i)) {
+      i += screening::kStretch;
+      continue;
+    }
+    const int end = i + std::min(screening::kStretch, n - i);
+    for (; end - i >= screening::kGroup; i += screening::kGroup) {
+      if (!seeGroup(i)) see(i, i + screening::kGroup);
+    }
+    see(i, end);
+    i = end;
+  }
+  grouped.tell(extremes);
+
+  // Of zeros that differ in sign the first one stands, whichever group it came from.
+  const auto firstZero = [&] {
+    int k = start;
+    while (cells[k] != 0.0 || !isUsed(exclude, k) || (k > start && !present(k))) ++k;
+    return cells[k];
+  };
+  if (extremes.min == 0.0) extremes.min = firstZero();
+  if (extremes.max == 0.0) extremes.max = firstZero();
+  return extremes;
+}
+
+template <class Replaces>
+double firstExtreme(const matrix* x, int n, int* position, Replaces replaces) {
+  const usable::Cells cells(x, n);
+  int found = 0;
+  double extreme = kMissing;
+  usable::forEach(n, usable::Present(cells), [&](int i) {
+    if (found != 0 && !replaces(cells[i], extreme)) return;
+    extreme = cells[i];
+    found = i + 1;
+  });
+  if (position != nullptr) *position = found;
+  return extreme;
+}
+
+}  // namespace
+
+double V_Min(const matrix* x, int n, const short* exclude) {
+  return usable::given(n, exclude) ? extremesOf(x, n, exclude).min : kMissing;
+}
+
+double V_Max(const matrix* x, int n, const short* exclude) { return extremesOf(x, n, exclude).max; }
+
+void V_MinMax(const matrix* x, int n, double* min, double* max, const short* exclude) {
+  const Extremes extremes = usable::given(n, exclude) ? extremesOf(x, n, exclude) : Extremes(kMissing);
+  if (min != nullptr) *min = extremes.min;
+  if (max != nullptr) *max = extremes.max;
+}
+
+int V_MaxInt(const matrix* x, int n, const short* exclude) {
+  const double max = V_Max(x, n, exclude);
+  return isMarker(max) ? 0 : scalar::truncateToInt(max);
+}
+
+double V_MaxAndMaxPos(const matrix* x, int n, int* position) {
+  return firstExtreme(x, n, position, std::greater<double>());
+}
+
+double V_MinAndMinPos(const matrix* x, int n, int* position) {
+  return firstExtreme(x, n, position, std::less<double>());
+}
