@@ -2,12 +2,20 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdlib>
 #include <fstream>
 #include <map>
 #include <string>
 
+#include "sort/sorts.h"
+#include "stats/quantiles.h"
+#include "stats/ranks.h"
+#include "stats/special_means.h"
+#include "stats/vector_extremes.h"
+#include "stats/vector_moments.h"
 #include "stats/vector_sums.h"
+#include "stats/vector_transforms.h"
 #include "tables/copies.h"
 
 namespace {
@@ -16,6 +24,52 @@ using Hashes = std::map<std::string, std::uint64_t>;
 
 constexpr int kRows = 997;
 constexpr int kColumns = 7;
+
+/// Statistics of cells with missing ones, exclusions and weights: each in its own order of operations.
+std::uint64_t hashOfStatistics(const matrix& x, const matrix& kept, const matrix& w, const short* exclude) {
+  BitHash hash;
+  for (int n = 1; n <= kRows; n += 83) {
+    for (int options = 0; options < 4; ++options) {
+      const short unbiased = asFlag(options % 2 != 0), biasIsOne = asFlag(options / 2 != 0);
+      double results[6];
+      V_MeanVarSkewPKurtP(&x, n, &results[0], &results[1], &results[2], &results[3], &results[4], &results[5],
+                          exclude, &w, unbiased, biasIsOne);
+      for (double result : results) hash.add(result);
+      V_MeanStdev(&x, n, &results[0], &results[1], exclude, &w, unbiased, biasIsOne);
+      hash.add(results[0]).add(results[1]).add(V_Var(&x, n, exclude, &w, unbiased, biasIsOne));
+      hash.add(CorrelPearson(&x, &w, n, exclude, &w, unbiased, biasIsOne));
+    }
+    const matrix positive(n, 1, 2.385);
+    for (int i = 0; i < n; ++i) positive.values[i] = std::fabs(kept.values[i % 40]) + 1e-3;
+    double gmean, gsd;
+    V_GMeanGSD(&positive, n, exclude, &w, &gmean, &gsd);
+    hash.add(gmean).add(gsd).add(V_HarmonicMean(&positive, n, exclude, &w));
+    hash.add(V_Min(&kept, n, exclude)).add(V_Max(&kept, n, exclude));
+    for (double p : {0.0, 0.1, 0.385, 0.5, 1.0}) {
+      hash.add(V_Quantile(&kept, n, p)).add(V_QuantileMW(&x, n, exclude, &w, p));
+    }
+  }
+  return hash.value();
+}
+
+std::uint64_t hashOfSorts(const matrix& kept) {
+  BitHash hash;
+  for (int n : {10, 300, kRows}) {
+    matrix *keys = new matrix(n, &kept), *data = new matrix(n, &kept), *companion = nullptr, *ranks = nullptr;
+    V_GetRanks(keys, n * kColumns, ranks);
+    SortQ(data, n, kColumns, 1, n, keys, companion, 0, kTrue, kTrue);
+    hash.add(*data).add(*keys).add(*ranks);
+    SortMatrixSeqQ(data, n, kColumns);
+    SortQVector(keys, 0, 1, n * kColumns, kFalse);
+    hash.add(*data).add(*keys);
+    V_NormToVal(keys, n, 2.385);
+    hash.add(*keys);
+    delete keys;
+    delete data;
+    delete ranks;
+  }
+  return hash.value();
+}
 
 Hashes hashesOfCorpus() {
   const std::vector<double> cells = corpusCells(1, kRows * kColumns), weightCells = corpusCells(2, kRows);
@@ -36,6 +90,8 @@ Hashes hashesOfCorpus() {
     sums.add(V_Mean(&table, n, flags.data(), &weights)).add(V_Mean(&kept, n, flags.data(), &weights));
   }
   hashes["sums"] = sums.value();
+  hashes["statistics"] = hashOfStatistics(table, kept, weights, exclude.data());
+  hashes["sorts"] = hashOfSorts(kept);
   matrix transposed(kColumns, kRows), stacked(kRows * kColumns, 1);
   table.transposeTo(&transposed);
   table.vectorizeTo(&stacked);
