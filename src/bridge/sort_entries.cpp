@@ -11,6 +11,16 @@ namespace {
 /// A macro that passes no columns means the one column that its array is.
 int atLeastOne(int columns) { return columns == 0 ? 1 : columns; }
 
+/// Keys go back only when the macro wants them sorted: it may pass one array as keys and as data.
+template <class Data, class Keys, class Companion>
+void storeSorted(Data& data, Keys& keys, Companion& companion, VARIANT_BOOL updateMaster) {
+  if (updateMaster == kTrue) {
+    store(data, keys, companion);
+  } else {
+    store(data, companion);
+  }
+}
+
 }  // namespace
 
 int entries::VB_SortQVectorLng(int* ioVector, int n, int iLowerBound, int iUpperBound,
@@ -64,7 +74,7 @@ int entries::VB_SortQDbl(double* ioSlave, int n, int pSlave, int iLowerBound, in
   InOutTable companion(ioSlave2, n, p2, Cells::KeepAll);
   const int status =
       SortQ(data, n, p1, iLowerBound, iUpperBound, keys, companion, p2, iSortdown, updateMaster);
-  store(data, keys, companion);
+  storeSorted(data, keys, companion, updateMaster);
   return status;
 }
 
@@ -77,7 +87,7 @@ int entries::VB_SortQLng(int* ioSlave, int n, int pSlave, int iLowerBound, int i
   InOutInts companion(ioSlave2, n, p2);
   const int status =
       SortQ(data, n, p1, iLowerBound, iUpperBound, keys, companion, p2, iSortdown, updateMaster);
-  store(data, keys, companion);
+  storeSorted(data, keys, companion, updateMaster);
   return status;
 }
 
@@ -90,7 +100,7 @@ int entries::VB_SortQStr(BSTR* ioSlave, int n, int pSlave, int iLowerBound, int 
   InOutTable companion(ioSlave2, n, p2, Cells::KeepAll);
   const int status =
       SortQ(data, n, p1, iLowerBound, iUpperBound, keys, companion, p2, iSortdown, updateMaster);
-  store(data, keys, companion);
+  storeSorted(data, keys, companion, updateMaster);
   return status;
 }
 
@@ -104,7 +114,7 @@ int entries::VB_SortQBool(VARIANT_BOOL* ioSlave, int n, int pSlave, int iLowerBo
   InOutTable companion(ioSlave2, n, p2, Cells::KeepAll);
   const int status =
       SortQ(data, n, p1, iLowerBound, iUpperBound, keys, companion, p2, iSortdown, updateMaster);
-  store(data, keys, companion);
+  storeSorted(data, keys, companion, updateMaster);
   return status;
 }
 

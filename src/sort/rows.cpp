@@ -49,50 +49,48 @@ void flagMarkers(const double* values, bool* flags, int count) {
 }
 
 /// Rows beyond the table read -1.0, or run on into the next column.
-void permuteBeyond(matrix* table, int columns, const Span& span, const RowOrder& order) {
-  const block::Values before(table, span.last, columns);
-  block::Target target(table, span.last, columns);
+void permuteBeyond(matrix* table, int columns, const Range& span, const RowOrder& order) {
+  const block::Values before(table, span.end, columns);
+  block::Target target(table, span.end, columns);
   Scratch<double> column(static_cast<std::size_t>(span.count()));
   for (int j = 0; j < columns; ++j) {
-    std::copy_n(before.data() + before.stride() * j + span.first, span.count(), column.data());
-    gather(column.data(), order.rows(), span.count(), target.data() + target.stride() * j + span.first);
+    std::copy_n(before.data() + before.stride() * j + span.begin, span.count(), column.data());
+    gather(column.data(), order.rows(), span.count(), target.data() + target.stride() * j + span.begin);
   }
   target.store();
 }
 
 }  // namespace
 
-Span::Span(int from, int to, int tableRows)
-    : first(std::min(std::max(from, 1) - 1, std::max(tableRows, 0))),
-      last(std::max(std::min(to, tableRows), first)) {}
-
-void permute(matrix* table, int columns, const Span& span, const RowOrder& order) {
+void permute(matrix* table, int columns, const Range& span, const RowOrder& order) {
   if (table == nullptr || span.count() == 0 || columns < 1) return;
-  if (addressing::isInside(*table, span.first)) table->descValid = 0;
+  if (addressing::isInside(*table, span.begin)) table->descValid = 0;
   if (order.isInPlace()) return;
-  if (span.last > table->nX) {
+  if (span.end > table->nX) {
     permuteBeyond(table, columns, span, order);
     return;
   }
   Scratch<double> before(static_cast<std::size_t>(span.count()));
   for (int j = 0; j < std::min(columns, table->pX); ++j) {
-    const std::int64_t begin = addressing::linearIndex(span.first, j, table->nX);
+    const std::int64_t begin = addressing::linearIndex(span.begin, j, table->nX);
     move(table->values + begin, table->missing + begin, order.rows(), before);
   }
 }
 
-void permuteColumn(matrix& table, int column, const Span& span, const RowOrder& order) {
-  const std::int64_t begin = addressing::linearIndex(span.first, column, table.nX);
+void permuteColumn(matrix& table, int column, const Range& span, const RowOrder& order) {
+  table.descValid = 0;
+  if (order.isInPlace()) return;
+  const std::int64_t begin = addressing::linearIndex(span.begin, column, table.nX);
   Scratch<double> before(static_cast<std::size_t>(span.count()));
   move(table.values + begin, table.missing + begin, order.rows(), before);
 }
 
-void permuteWithMissing(matrix* table, int columns, const Span& span, const RowOrder& order) {
+void permuteWithMissing(matrix* table, int columns, const Range& span, const RowOrder& order) {
   if (table == nullptr || span.count() == 0) return;
   Scratch<double> before(static_cast<std::size_t>(span.count()));
   for (int j = 0; j < std::min(columns, table->pX); ++j) {
     table->descValid = 0;
-    const std::int64_t begin = addressing::linearIndex(span.first, j, table->nX);
+    const std::int64_t begin = addressing::linearIndex(span.begin, j, table->nX);
     double* values = table->values + begin;
     bool* flags = table->missing + begin;
     const bool complete = !screening::anyMissing(values, flags, span.count());
@@ -107,11 +105,11 @@ void permuteWithMissing(matrix* table, int columns, const Span& span, const RowO
   }
 }
 
-void permute(Smatrix* table, int columns, const Span& span, const RowOrder& order) {
+void permute(Smatrix* table, int columns, const Range& span, const RowOrder& order) {
   if (table == nullptr || order.isInPlace()) return;
   std::vector<std::u16string> before(static_cast<std::size_t>(span.count()));
   for (int j = 0; j < std::min(columns, table->pX); ++j) {
-    std::u16string* cells = table->cells + addressing::linearIndex(span.first, j, table->nX);
+    std::u16string* cells = table->cells + addressing::linearIndex(span.begin, j, table->nX);
     std::move(cells, cells + span.count(), before.begin());
     for (int k = 0; k < span.count(); ++k) cells[k] = std::move(before[static_cast<std::size_t>(order[k])]);
   }

@@ -12,14 +12,13 @@
 #include "sort/rows.h"
 
 using ordering::RowOrder;
-using rows::Span;
 
 namespace {
 
-/// Rows that both the caller's table and its container have.
+/// Rows that both the caller's table and its container have, where columns of it take part.
 template <class Container>
-int commonRows(const Container* table, int tableRows) {
-  return table == nullptr ? tableRows : std::min(tableRows, table->nX);
+int commonRows(const Container* table, int tableRows, int columns) {
+  return table == nullptr || columns < 1 ? tableRows : std::min(tableRows, table->nX);
 }
 
 /// What both forms of SortQ do but for the way their data move.
@@ -28,11 +27,11 @@ int commonRows(const Container* table, int tableRows) {
 /// @param numbers  the data where they are numbers, else null: keys that are their first column move with
 /// them
 template <class Move>
-void sortByKeys(const Span& span, const matrix* numbers, matrix* keys, matrix* companion,
+void sortByKeys(const Range& span, const matrix* numbers, matrix* keys, matrix* companion,
                 int companionColumns, short descending, short writeKeysBack, Move move) {
   if (span.count() == 0) return;
-  const block::Values keyCells(keys, span.last);
-  const RowOrder order(keyCells.data() + span.first, span.count(), descending == kTrue);
+  const block::Values keyCells(keys, span.end);
+  const RowOrder order(keyCells.data() + span.begin, span.count(), descending == kTrue);
   move(order);
   const bool moved = keys == numbers || (keys == companion && companionColumns > 0);
   if (writeKeysBack == kTrue && !moved) rows::permute(keys, 1, span, order);
@@ -40,15 +39,15 @@ void sortByKeys(const Span& span, const matrix* numbers, matrix* keys, matrix* c
 }
 
 template <class Cell>
-void sortCells(Cell* x, const Span& span, short descending) {
-  Cell* begin = x + span.first;
+void sortCells(Cell* x, const Range& span, short descending) {
+  Cell* begin = x + span.begin;
   ordering::sortAscending(begin, span.count());
-  if (descending != 0) std::reverse(begin, x + span.last);
+  if (descending != 0) std::reverse(begin, x + span.end);
 }
 
 template <class Cell>
 int sortArray(Cell* x, int n, int from, int to, short descending) {
-  if (x != nullptr) sortCells(x, Span(from, to, n), descending);
+  if (x != nullptr) sortCells(x, Range(n, from, to), descending);
   return 0;
 }
 
@@ -68,7 +67,7 @@ int rowAskedFor(double order, int tableRows) {
 
 int SortQ(matrix*& data, int rows, int dataColumns, int from, int to, matrix*& keys, matrix*& companion,
           int companionColumns, short descending, short writeKeysBack) {
-  const Span span(from, to, commonRows(data, rows));
+  const Range span(commonRows(data, rows, dataColumns), from, to);
   const matrix* numbers = dataColumns > 0 ? data : nullptr;
   sortByKeys(span, numbers, keys, companion, companionColumns, descending, writeKeysBack,
              [&](const RowOrder& order) { rows::permuteWithMissing(data, dataColumns, span, order); });
@@ -77,26 +76,28 @@ int SortQ(matrix*& data, int rows, int dataColumns, int from, int to, matrix*& k
 
 int SortQ(Smatrix*& data, int rows, int dataColumns, int from, int to, matrix* keys, matrix* companion,
           int companionColumns, short descending, short writeKeysBack) {
-  const Span span(from, to, commonRows(data, rows));
+  const Range span(commonRows(data, rows, dataColumns), from, to);
   sortByKeys(span, nullptr, keys, companion, companionColumns, descending, writeKeysBack,
              [&](const RowOrder& order) { rows::permute(data, dataColumns, span, order); });
   return 0;
 }
 
 int SortQMatrixCol(matrix*& table, int rows, int columns, int keyColumn, int from, int to, short descending) {
-  const Span span(from, to, commonRows(table, rows));
-  if (table == nullptr || span.count() == 0 || keyColumn < 1 || keyColumn > table->pX) return 0;
-  const double* keys = table->values + addressing::linearIndex(span.first, keyColumn - 1, table->nX);
+  if (table == nullptr) return 0;
+  const Range span(std::min(rows, table->nX), from, to);
+  if (span.count() == 0 || keyColumn < 1 || keyColumn > table->pX) return 0;
+  const double* keys = table->values + addressing::linearIndex(span.begin, keyColumn - 1, table->nX);
   const RowOrder order(keys, span.count(), descending == kTrue);
   rows::permute(table, std::min(columns, table->pX), span, order);
-  if (keyColumn > columns && !order.isInPlace()) rows::permuteColumn(*table, keyColumn - 1, span, order);
+  if (keyColumn > columns) rows::permuteColumn(*table, keyColumn - 1, span, order);
   return 0;
 }
 
 int SortMatrixSeqQ(matrix*& table, int rows, int columns) {
-  const int last = commonRows(table, rows);
+  if (table == nullptr) return 0;
+  const int last = std::min(rows, table->nX);
   int status = SortQMatrixCol(table, last, columns, 1, 1, last, kFalse);
-  for (int k = 2; k <= columns; ++k) {
+  for (int k = 2; k <= std::min(columns, table->pX); ++k) {
     for (int begin = 1, end; begin <= last; begin = end) {
       end = begin + 1;
       while (end <= last && std::fabs(table->vbget(end, k - 1) - table->vbget(end - 1, k - 1)) <= kZero) {
@@ -127,9 +128,9 @@ int SortQVector(double* x, int n, int from, int to, short descending) {
 
 int SortQVector(matrix*& x, int, int from, int to, short descending) {
   if (x == nullptr) return 0;
-  const Span span(from, to, vectorSize(*x));
+  const Range span(vectorSize(*x), from, to);
   if (span.count() == 0) return 0;
-  block::Target cells(x, span.last);
+  block::Target cells(x, span.end);
   sortCells(cells.data(), span, descending);
   cells.store();
   return 0;
@@ -137,9 +138,9 @@ int SortQVector(matrix*& x, int, int from, int to, short descending) {
 
 int SortQVector(Smatrix* x, int, int from, int to, short descending) {
   if (x == nullptr) return 0;
-  const Span span(from, to, vectorSize(*x));
-  std::sort(x->cells + span.first, x->cells + span.last);
-  if (descending != 0) std::reverse(x->cells + span.first, x->cells + span.last);
+  const Range span(vectorSize(*x), from, to);
+  std::sort(x->cells + span.begin, x->cells + span.end);
+  if (descending != 0) std::reverse(x->cells + span.begin, x->cells + span.end);
   return 0;
 }
 

@@ -6,8 +6,8 @@
 // keys come out where an ordered multimap that is filled row by row has them. Cost n log n, and less when the
 // keys are in order already.
 //
-// Containers are taken by reference to their pointers and are never replaced. A null container has no cells.
-// Keys may be the first column of the data or of the companion, which are two containers.
+// Containers to be sorted are taken by reference to their pointers and are never replaced. A null container
+// has no cells. Keys may be the first column of the data or of the companion, which are two containers.
 #pragma once
 
 #include "core/Smatrix.h"
@@ -78,7 +78,8 @@ KAV_API int SortQVector(Smatrix* x, int n, int from, int to, short descending);
 ///
 /// @param order  rows cells, 1-based row numbers, order[r] - 1 truncated toward zero; one outside 1 .. rows
 ///               gives -1.0, or an empty string, in every cell
-/// @param out    rows x columns; its container is kept when the shape fits, flagged cells keeping what they
-///               hold, otherwise the pointer receives a new one, which belongs to the caller
+/// @param out    rows x columns, another container than source and order: kept when its shape fits, flagged
+///               cells keeping what they hold; otherwise the pointer receives a new one, which belongs to the
+///               caller
 KAV_API void SortApply(const matrix* source, int rows, int columns, const matrix* order, matrix*& out);
 KAV_API void SortApplyStr(const Smatrix* source, int rows, int columns, const matrix* order, Smatrix*& out);

@@ -62,10 +62,10 @@ double V_FreqStr(const Smatrix* labels, int n, const matrix* w, const std::u16st
 std::u16string V_Mode(const Smatrix* labels, int n, const short* exclude, const matrix* w) {
   const block::Values weights(w, n);
   std::unordered_map<std::u16string_view, double> totals;
-  for (int i = 0; i < n; ++i) {
+  usable::forEach(n, usable::NotExcludedIfGiven(exclude), [&](int i) {
     const std::u16string_view label = labelAt(labels, i);
-    if (!label.empty() && (exclude == nullptr || exclude[i] == 0)) totals[label] += weights[i];
-  }
+    if (!label.empty()) totals[label] += weights[i];
+  });
   std::u16string_view mode;
   double most = 0.0;
   for (const auto& [label, total] : totals) {

@@ -26,7 +26,7 @@ struct Errors {
 };
 
 double at(const matrix* table, int row, int column) {
-  return table == nullptr ? kOutside : table->vbget(row, column);
+  return table == nullptr ? kOutside : table->getElement(row, column);
 }
 
 }  // namespace
@@ -60,10 +60,10 @@ double MAE(const matrix* obs, const matrix* pred, int n, const matrix* w, int fi
 
 double RMSE(const matrix* obs, int rows, int column, const matrix* pred, int dof) {
   double sum = 0.0;
-  for (int i = 1; i <= rows && column >= 1; ++i) {
-    const double y = at(obs, i, column);
+  for (int i = 0; i < rows && column >= 1; ++i) {
+    const double y = at(obs, i, column - 1);
     if (y <= kMissing) continue;
-    const double error = y - at(pred, i, column);
+    const double error = y - at(pred, i, column - 1);
     sum += error * error;
   }
   return scalar::sqr(sum / dof);

@@ -13,7 +13,7 @@
 /// Left out: obs of 0.0, and positions where either cell is flagged or holds the marker.
 ///
 /// @param w  null stands for weights of 1.0
-/// @return 0.0 when W is 0.0 and nothing was added
+/// @return the sum itself, so 0.0 when nothing takes part, where W is 0.0
 KAV_API double MAPE(const matrix* obs, const matrix* pred, int n, const matrix* w, int first);
 
 /// Mean percentage error, 100 / W * sum((obs - pred) / obs * w).

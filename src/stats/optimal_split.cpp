@@ -3,17 +3,17 @@
 #include <vector>
 
 #include "core/moments.h"
+#include "core/range.h"
 #include "core/results.h"
 #include "stats/usable.h"
-
-using usable::Range;
 
 namespace {
 
 /// A group that grows cell by cell.
 class Group {
  public:
-  Group(const matrix* x, const matrix* w, int n) : cells_(x, n), weights_(w, n), present_(cells_) {}
+  Group(const matrix* x, const matrix* w, int n)
+      : cells_(x, n), weights_(w, n), present_(cells_), weighted_(weights_) {}
 
   /// Calls visit(i, diameter) after each cell i from begin to end, forward or backward.
   template <class Visit>
@@ -21,7 +21,7 @@ class Group {
     moments::Moments m;
     const int step = begin < end ? 1 : -1;
     for (int i = begin; i != end; i += step) {
-      if (present_(i) && weights_[i] != 0.0) m.add(cells_[i], weights_[i]);
+      if (present_(i) && weighted_(i)) m.add(cells_[i], weights_[i]);
       visit(i, m.squares());
     }
   }
@@ -30,6 +30,7 @@ class Group {
   usable::Cells cells_;
   block::Values weights_;
   usable::Present present_;
+  usable::Weighted weighted_;
 };
 
 }  // namespace
@@ -44,7 +45,7 @@ double V_FischerDist(const matrix* x, int n, const matrix* w, int from, int to) 
 
 int V_FischerBisec(const matrix* x, int n, const matrix* w, int from, int to, double* within) {
   const Range range(n, from, to);
-  const int size = w == nullptr ? 0 : range.end - range.begin;
+  const int size = w == nullptr ? 0 : range.count();
   int best = 0;
   double least = kMissing;
   if (size >= 2) {

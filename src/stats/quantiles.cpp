@@ -92,7 +92,7 @@ double V_QuantileMW(const matrix* x, int n, const short* exclude, const matrix* 
 double M_QuantileMW(const matrix* a, int rows, int column, const short* exclude, const matrix* w, double p) {
   if (rows < 1) return kMissing;
   matrix cells(rows, 1, kOutside);
-  if (a != nullptr) {
+  if (a != nullptr && column >= 1) {
     for (int i = 0; i < rows; ++i) {
       cells.values[i] = a->getElement(i, column - 1);
       cells.missing[i] = a->getMissing(i, column - 1);

@@ -1,7 +1,8 @@
 // Quantiles of a vector. Vectors as in vector_sums.h.
 //
-// p is a fraction: below 0 it counts as 0, above 1 as 1; NaN gives NaN. Cells are in the order of
-// SortQVector: the marker first, NaN last. Without weights the quantile interpolates between order statistics
+// p is a fraction: below 0 it counts as 0, above 1 as 1; NaN gives NaN. The marker is the lowest of numbers.
+// Without weights cells are in the order of SortQVector, NaN last; with weights in that of SortQ. Without
+// weights the quantile interpolates between order statistics
 // (Hyndman and Fan 1996, The American Statistician 50, 361-365, type 7):
 //
 //     h = (n - 1) p,   j = floor(h),   (1 - (h - j)) s[j] + (h - j) s[j + 1],   s[0] .. s[n-1] sorted

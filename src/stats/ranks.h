@@ -27,7 +27,8 @@ KAV_API void V_GetRanks(const matrix* x, int n, matrix*& ranks);
 /// @param w         n weights, required; without them every rank is the marker
 /// @param ranks     n cells
 /// @param ties      number of groups of ties; null takes nothing
-/// @param tieSizes  the size of each group, ascending in value: ties x 1
+/// @param tieSizes  the size of each group, ascending in value, in the first cells; a container with room for
+///                  them is kept, otherwise the pointer receives a new one of ties x 1
 KAV_API void V_GetRanksTies(const matrix* x, int n, const matrix* w, matrix*& ranks, int* ties,
                             matrix*& tieSizes);
 

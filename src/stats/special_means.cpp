@@ -12,11 +12,11 @@ using results::give;
 void V_GMeanGSD(const matrix* x, int n, const short* exclude, const matrix* w, double* gmean, double* gsd) {
   const block::Values cells(x, n), weights(w, n);
   bool positive = usable::given(n, exclude, w);
-  for (int i = 0; i < n && positive; ++i) positive = exclude[i] != 0 || !(cells[i] <= 0.0);
+  const usable::NotExcluded used(exclude);
+  for (int i = 0; i < n && positive; ++i) positive = !used(i) || !(cells[i] <= 0.0);
   moments::Moments m;
   if (positive) {
-    usable::forEach(n, usable::NotExcluded(exclude),
-                    [&](int i) { m.add(scalar::naturalLog(cells[i]), weights[i]); });
+    usable::forEach(n, used, [&](int i) { m.add(scalar::naturalLog(cells[i]), weights[i]); });
   }
   const double divisor = moments::Denominator(kTrue, kFalse).of(m.total(), m.count());
   const bool spreads = positive && divisor != 0.0;
@@ -27,10 +27,11 @@ void V_GMeanGSD(const matrix* x, int n, const short* exclude, const matrix* w, d
 double V_HarmonicMean(const matrix* x, int n, const short* exclude, const matrix* w) {
   if (!usable::given(n, exclude, w)) return kMissing;
   const block::Values cells(x, n), weights(w, n);
+  const usable::NotExcluded used(exclude);
   double total = 0.0;
   double sum = 0.0;
   for (int i = 0; i < n; ++i) {
-    if (exclude[i] != 0) continue;
+    if (!used(i)) continue;
     if (cells[i] == 0.0) return kMissing;
     total += weights[i];
     sum += weights[i] / cells[i];

@@ -7,7 +7,6 @@
 //     E  Present              present: flag clear and value not the marker
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -31,7 +30,8 @@ class Cells {
 };
 
 struct Present {
-  explicit Present(const Cells& cells) : x(cells.values()), flagged(cells.flags()) {}
+  explicit Present(const Cells& cells) : Present(cells.values(), cells.flags()) {}
+  Present(const double* values, const char* flags) : x(values), flagged(flags) {}
   bool operator()(std::ptrdiff_t i) const { return flagged[i] == 0 && !isMarker(x[i]); }
 
   const double* x;
@@ -48,6 +48,14 @@ struct NotExcluded {
 /// D where nothing is excluded.
 struct Every {
   bool operator()(std::ptrdiff_t) const { return true; }
+};
+
+/// D where flags may be null, which excludes nothing.
+struct NotExcludedIfGiven {
+  explicit NotExcludedIfGiven(const short* flags) : exclude(flags) {}
+  bool operator()(std::ptrdiff_t i) const { return exclude == nullptr || exclude[i] == 0; }
+
+  const short* exclude;
 };
 
 struct Weighted {
@@ -89,15 +97,6 @@ inline std::u16string_view labelAt(const Smatrix* labels, std::ptrdiff_t i) {
   if (labels == nullptr || !addressing::isInside(*labels, i)) return {};
   return labels->cells[i];
 }
-
-/// A 1-based inclusive range cut to 1 .. n, as 0-based [begin, end).
-struct Range {
-  Range(int n, int from, int to)
-      : begin(std::min(std::max(from, 1) - 1, std::max(n, 0))), end(std::max(std::min(to, n), begin)) {}
-
-  int begin;
-  int end;
-};
 
 /// Whether the arrays that a statistic cannot do without are there; an empty vector needs none.
 template <class... Arrays>

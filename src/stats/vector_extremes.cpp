@@ -3,6 +3,7 @@
 #include <cmath>
 #include <functional>
 
+#include "core/results.h"
 #include "core/screening.h"
 #include "platform/scalar.h"
 #include "stats/usable.h"
@@ -32,6 +33,8 @@ class GroupedExtremes {
   bool see(const double* cells) {
     static_assert(count % 4 == 0);
     __m128d lowA = min_, lowB = min_, highA = max_, highB = max_;
+    // More at once, and the eight registers of 32-bit code do not suffice.
+#pragma GCC unroll 8
     for (int k = 0; k < count; k += 4) {
       const __m128d a = _mm_loadu_pd(cells + k), b = _mm_loadu_pd(cells + k + 2);
       lowA = _mm_min_pd(a, lowA);
@@ -58,21 +61,20 @@ class GroupedExtremes {
   __m128d max_ = _mm_set1_pd(-HUGE_VAL);
 };
 
-bool isUsed(const short* exclude, std::ptrdiff_t i) { return exclude == nullptr || exclude[i] == 0; }
-
 /// @param exclude  null excludes nothing
 Extremes extremesOf(const matrix* x, int n, const short* exclude) {
   const usable::Cells cells(x, n);
   const usable::Present present(cells);
+  const usable::NotExcludedIfGiven used(exclude);
   int start = 0;
-  while (start < n && !isUsed(exclude, start)) ++start;
+  while (start < n && !used(start)) ++start;
   if (start >= n) return Extremes(kMissing);
 
   Extremes extremes(cells[start]);
   GroupedExtremes grouped;
   const auto see = [&](int begin, int end) {
     for (int i = begin; i < end; ++i) {
-      if (!isUsed(exclude, i) || !present(i)) continue;
+      if (!used(i) || !present(i)) continue;
       extremes.seeLow(cells[i]);
       extremes.seeHigh(cells[i]);
     }
@@ -104,7 +106,7 @@ Extremes extremesOf(const matrix* x, int n, const short* exclude) {
   // Of zeros that differ in sign the first one stands, whichever group it came from.
   const auto firstZero = [&] {
     int k = start;
-    while (cells[k] != 0.0 || !isUsed(exclude, k) || (k > start && !present(k))) ++k;
+    while (cells[k] != 0.0 || !used(k) || (k > start && !present(k))) ++k;
     return cells[k];
   };
   if (extremes.min == 0.0) extremes.min = firstZero();
@@ -122,7 +124,7 @@ double firstExtreme(const matrix* x, int n, int* position, Replaces replaces) {
     extreme = cells[i];
     found = i + 1;
   });
-  if (position != nullptr) *position = found;
+  results::give(position, found);
   return extreme;
 }
 
@@ -136,8 +138,8 @@ double V_Max(const matrix* x, int n, const short* exclude) { return extremesOf(x
 
 void V_MinMax(const matrix* x, int n, double* min, double* max, const short* exclude) {
   const Extremes extremes = usable::given(n, exclude) ? extremesOf(x, n, exclude) : Extremes(kMissing);
-  if (min != nullptr) *min = extremes.min;
-  if (max != nullptr) *max = extremes.max;
+  results::give(min, extremes.min);
+  results::give(max, extremes.max);
 }
 
 int V_MaxInt(const matrix* x, int n, const short* exclude) {

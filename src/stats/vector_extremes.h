@@ -8,7 +8,8 @@
 ///
 /// The first cell that is not excluded is where both start, taken as it is, even when it is missing; a later
 /// cell counts when it is neither excluded nor missing. So a first cell with the marker is the minimum, as no
-/// ordinary number is smaller, and never the maximum of several; a first cell that is NaN is both.
+/// ordinary number is smaller, and the maximum only when every later cell is left out; a first cell that is
+/// NaN is both.
 ///
 /// @param exclude  n flags; required by V_Min and V_MinMax, null for V_Max excludes nothing
 /// @param min max  out; null takes nothing

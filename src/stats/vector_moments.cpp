@@ -4,7 +4,6 @@
 
 #include "core/moments.h"
 #include "core/results.h"
-#include "core/thresholds.h"
 #include "platform/scalar.h"
 #include "stats/usable.h"
 
@@ -116,8 +115,8 @@ void V_MeanVarSkewPKurtP(const matrix* x, int n, double* mean, double* var, doub
   give(kurt, shape.kurt);
 }
 
-double CorrelPearson(const matrix* x, const matrix* y, int n, const short* exclude, const matrix* w,
-                     short unbiased, short biasIsOne) {
+double CorrelPearson(const matrix* x, const matrix* y, int n, const short* exclude, const matrix* w, short,
+                     short) {
   if (!usable::given(n, exclude, w)) return kMissing;
   const usable::Cells a(x, n), b(y, n);
   const block::Values weights(w, n);
@@ -127,8 +126,11 @@ double CorrelPearson(const matrix* x, const matrix* y, int n, const short* exclu
     if (present(i)) sums.add(a[i], b[i], weights[i]);
   });
   if (sums.count() == 0.0) return kMissing;
-  const double divisor = Denominator(unbiased, biasIsOne).of(sums.total(), sums.count());
-  const double product = (sums.squaresX() / divisor) * (sums.squaresY() / divisor);
-  if (std::fabs(product) - kZero <= 0.0) return 0.0;
-  return (sums.products() / divisor) / scalar::sqr(product);
+  if (sums.squaresX() == 0.0 || sums.squaresY() == 0.0) return 0.0;
+  // One root makes a vector's correlation with itself exactly 1.0; two are taken where the product overflows
+  // or vanishes.
+  const double product = sums.squaresX() * sums.squaresY();
+  const bool representable = std::isnormal(product);
+  return sums.products() /
+         (representable ? scalar::sqr(product) : scalar::sqr(sums.squaresX()) * scalar::sqr(sums.squaresY()));
 }

@@ -65,7 +65,7 @@ KAV_API void V_MeanVarSkewPKurtP(const matrix* x, int n, double* mean, double* v
 /// Weighted linear (Pearson) correlation of the rows where both cells are present, not excluded, and the
 /// weight is not exactly 0.0.
 ///
-/// @return 0.0 when the product of both variances is at most 1e-12, as for a constant side; the marker when
-///         no row is usable
+/// @param unbiased biasIsOne  not used: the denominators of covariance and variances cancel
+/// @return 0.0 when a side is constant; the marker when no row is usable
 KAV_API double CorrelPearson(const matrix* x, const matrix* y, int n, const short* exclude, const matrix* w,
                              short unbiased, short biasIsOne);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/moments.h"
+#include "core/range.h"
 #include "core/screening.h"
 #include "stats/usable.h"
 
@@ -63,7 +64,7 @@ double V_Sum(const matrix* x, int n, const short* exclude, const matrix* w) {
 double V_Sum2(const matrix* x, int n) { return V_Sum(x, n, nullptr, nullptr); }
 
 double V_SumFromTo(const matrix* x, int n, int from, int to) {
-  const usable::Range range(n, from, to);
+  const Range range(n, from, to);
   const block::Values cells(x, range.end);
   double sum = 0.0;
   for (int i = range.begin; i < range.end; ++i) sum += cells[i];
@@ -124,7 +125,8 @@ double V_MeanIf(const matrix* x, int n, const matrix* criterion, double value) {
 double V_VarIf(const matrix* x, int n, const matrix* criterion, double value, short biased) {
   moments::Moments m;
   forEachWhere(x, n, criterion, value, [&](double cell) { m.add(cell, 1.0); });
-  const double divisor = biased == kTrue ? m.count() : m.count() - 1.0;
+  const short unbiased = biased == kTrue ? kFalse : kTrue;
+  const double divisor = moments::Denominator(unbiased, kTrue).of(m.total(), m.count());
   return divisor <= 0.0 ? kMissing : m.squares() / divisor;
 }
 
@@ -144,7 +146,7 @@ int V_NbNonMissing(const matrix* x, int n) { return n < 1 ? n : n - V_NbMissing(
 int V_NbTrue(const matrix* x, int n) { return V_NbTrueFromTo(x, n, 1, n); }
 
 int V_NbTrueFromTo(const matrix* x, int n, int from, int to) {
-  const usable::Range range(n, from, to);
+  const Range range(n, from, to);
   const block::Values cells(x, range.end);
   int count = 0;
   for (int i = range.begin; i < range.end; ++i) count += cells[i] != 0.0 ? 1 : 0;

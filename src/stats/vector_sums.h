@@ -2,7 +2,8 @@
 //
 // A vector is the first n cells of a container in flat order, column after column. Reads past the container's
 // end give -1.0, for data and weights alike; a null container has no cells. A cell is present when its flag
-// is clear and its value is not the marker. Sums are added in index order. Below 1 an n means no cells.
+// is clear and its value is not the marker. Sums are added in index order. Below 1 an n means no cells; one
+// beyond the container's cells takes memory for those outside (std::bad_alloc).
 #pragma once
 
 #include "core/Smatrix.h"

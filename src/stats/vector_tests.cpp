@@ -23,9 +23,8 @@ template <class IsMissing>
 void missingOrExcluded(int n, const short* exclude, matrix*& out, IsMissing isMissing) {
   results::prepare(out, n, 1);
   block::Target flags(out, n);
-  for (int i = 0; i < n; ++i) {
-    flags[i] = asFlag((exclude != nullptr && exclude[i] != 0) || isMissing(i));
-  }
+  const usable::NotExcludedIfGiven used(exclude);
+  for (int i = 0; i < n; ++i) flags[i] = asFlag(!used(i) || isMissing(i));
   flags.store();
 }
 
@@ -88,10 +87,10 @@ short V_V1GreaterThanMatCols(const matrix* w, int n, const matrix* y, int p) {
   const block::Values cells(y, n, p);
   const block::Flags flags(y, n, p);
   for (int j = 0; j < p; ++j) {
+    const double* column = cells.data() + cells.stride() * j;
+    const usable::Present present(column, flags.data() + flags.stride() * j);
     for (int i = 0; i < n; ++i) {
-      const double cell = cells[i + cells.stride() * j];
-      const bool present = !flags[i + flags.stride() * j] && !isMarker(cell);
-      if (!present || !bounded(i) || !(bounds[i] > cell)) return kFalse;
+      if (!present(i) || !bounded(i) || !(bounds[i] > column[i])) return kFalse;
     }
   }
   return kTrue;

@@ -72,13 +72,6 @@ void multiply(const matrix* x, int n, const matrix* y, matrix* target) {
   fill(target, n, [&](int i) { return a[i] * b[i]; });
 }
 
-/// Cells of a product of vectors. Throws std::bad_alloc when there are more than a vector can have.
-int productSize(int p1, int p2) {
-  const std::int64_t cells = addressing::cellCount(p1, p2);
-  if (cells > std::numeric_limits<int>::max()) throw std::bad_alloc();
-  return static_cast<int>(cells);
-}
-
 }  // namespace
 
 void V_PlusVal(matrix* x, int n, double value, const short* exclude) {
@@ -140,7 +133,7 @@ void V_ProductV1TrV2(const matrix* x, int n, const matrix* y, matrix*& out) {
 }
 
 void V_ProductHorizV1V2(const matrix* x, int p1, const matrix* y, int p2, matrix*& out, int p) {
-  const int size = std::max(std::min(p, productSize(p1, p2)), 0);
+  const auto size = static_cast<int>(std::clamp<std::int64_t>(p, 0, addressing::cellCount(p1, p2)));
   const block::Values a(x, p1), b(y, p2);
   results::prepare(out, size, 1);
   fill(out, size, [&](int k) { return a[k / p2] * b[k % p2]; });
@@ -148,7 +141,9 @@ void V_ProductHorizV1V2(const matrix* x, int p1, const matrix* y, int p2, matrix
 
 void V_ProductHorizV1V22(matrix*& x, int* p1, const matrix* y, int p2) {
   if (p1 == nullptr) return;
-  const int size = productSize(*p1, p2);
+  const std::int64_t cells = addressing::cellCount(*p1, p2);
+  if (cells > std::numeric_limits<int>::max()) throw std::bad_alloc();
+  const auto size = static_cast<int>(cells);
   matrix* product = nullptr;
   V_ProductHorizV1V2(x, *p1, y, p2, product, size);
   const std::unique_ptr<matrix> owner(product);

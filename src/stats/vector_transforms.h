@@ -52,8 +52,10 @@ KAV_API void V_ProductV1TrV2(const matrix* x, int n, const matrix* y, matrix*& o
 
 /// out = Kronecker product of x (p1 cells) and y (p2): cell (a-1) * p2 + b, 1-based, is x[a] * y[b].
 ///
-/// @param p  cells of out; those beyond p1 * p2 are not made, those beyond p not computed
+/// @param out  another container than x and y
+/// @param p    room in out: it receives the first p cells when there are more
 KAV_API void V_ProductHorizV1V2(const matrix* x, int p1, const matrix* y, int p2, matrix*& out, int p);
 
-/// The same in place of x; *p1 becomes p1 * p2. A null p1 changes nothing.
+/// The same in place of x; *p1 becomes p1 * p2. A null p1 changes nothing. Throws std::bad_alloc when there
+/// would be more cells than a vector can have.
 KAV_API void V_ProductHorizV1V22(matrix*& x, int* p1, const matrix* y, int p2);

@@ -38,7 +38,9 @@ void M_Duplicate(const matrix* a, int n, int p, matrix*& out) {
 void M_Duplicate(const Smatrix* a, int n, int p, Smatrix*& out) {
   Smatrix::matCheck(out, n, p);
   for (int j = 0; j < p; ++j) {
-    for (int i = 0; i < n; ++i) out->setElement(i, j, a->getElement(i, j));
+    for (int i = 0; i < n; ++i) {
+      out->setElement(i, j, a == nullptr ? std::u16string() : a->getElement(i, j));
+    }
   }
 }
 

@@ -2,7 +2,7 @@
 //
 // A result is prepared by matCheck: a container of the right shape is reused, its flagged cells keeping what
 // they hold after the refill with 0.0; otherwise the result is re-pointed to a new container that belongs to
-// the caller. Values are copied, never flags.
+// the caller. Values are copied, never flags. A result is another container than the one it is made from.
 #pragma once
 
 #include <string>

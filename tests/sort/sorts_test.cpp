@@ -147,6 +147,18 @@ TEST(Sorts, CellsBeyondTheContainersReadMinusOne) {
   EXPECT_TRUE(holds(*keys, 3, 1, {0.25, 2.385, -1.0}));
 }
 
+TEST(Sorts, WithoutDataOrTableTheRestIsSorted) {
+  const double cells[] = {2.5, 1.5, 4.5};
+  const Table keys(new matrix(3, 1, cells, true, 0, 0)), companion(new matrix(3, 1, cells, true, 0, 0));
+  Smatrix none(0, 0), *labels = &none;
+  matrix* null = nullptr;
+  SortQ(labels, 3, 0, 1, 3, keys.get(), companion.get(), 1, 0, -1);
+  EXPECT_EQ(cellsOf(*keys), (Cells{1.5, 2.5, 4.5}));
+  EXPECT_EQ(cellsOf(*companion), (Cells{1.5, 2.5, 4.5}));
+  EXPECT_EQ(SortMatrixSeqQ(null, 3, INT_MAX), 0);
+  EXPECT_EQ(SortQMatrixCol(null, 3, 2, 1, 1, 3, 0), 0);
+}
+
 TEST(Sorts, IndicatorsPartTheRows) {
   const Table data = tableOf({2.385, kMissing, -4.5, 0.25}), keys = tableOf({1.0, 0.0, 1.0, -0.0});
   Smatrix labels(4, 1), *strings = &labels;

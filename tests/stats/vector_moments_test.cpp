@@ -45,8 +45,7 @@ struct Definition {
       meanY += r * dy;
     }
     const double a = total / count, k = biasIsOne == -1 ? 1.0 : a, by = unbiased == -1 ? total - k : total;
-    const double product = (xx / by) * (yy / by);
-    basic = {mean, squares / by, std::fabs(product) - 1e-12 <= 0.0 ? 0.0 : (xy / by) / std::sqrt(product)};
+    basic = {mean, squares / by, xx == 0.0 || yy == 0.0 ? 0.0 : xy / std::sqrt(xx * yy)};
     if (count == 0.0) basic[2] = kMissing;
     shapes = {mean, kMissing, kMissing, kMissing, kMissing, kMissing};
     if (unbiased == -1 && by == 0.0) return;
@@ -206,6 +205,12 @@ TEST(VectorMoments, ConstantsVaryByExactlyNothing) {
     EXPECT_EQ(shapesOf(x, 40, kNone, &w, -1, 0)[4], kMissing);
     EXPECT_TRUE(bits::equal(CorrelPearson(&w, &x, 40, kNone, &w, 0, 0), 0.0));
     EXPECT_EQ(CorrelPearson(&w, &w, 40, kNone, &w, 0, 0), 1.0);
+    // Neither scale nor denominator matters, even where the product of two variances is no double.
+    for (const double scale : {-1e120, -1e-5, -1e-120}) {
+      matrix y(40, 1, 0.0);
+      for (int i = 0; i < 40; ++i) y.values[i] = scale * w.values[i];
+      EXPECT_NEAR(CorrelPearson(&y, &w, 40, kNone, &w, -1, -1), -1.0, 1e-14);
+    }
   }
 }
 

@@ -246,6 +246,9 @@ TEST(SortingEntries, SortRowsByKeys) {
   EXPECT_EQ(key, (Doubles{2.0, 1.0, 1.0, kMarker}));
   EXPECT_EQ(data, (Doubles{1.0, kMarker, 4.0, 3.0, 9.5}));
   EXPECT_EQ(companion, (Doubles{10.0, 20.0, 40.0, 30.0, 9.5}));
+  // One array as data and as keys: unless keys are to be sorted too, the data stand.
+  EXPECT_EQ(dll().integer(L"VB_SortQDbl", {companion, 4, 1, 1, 4, companion, data, 1, true, false}), 0);
+  EXPECT_EQ(companion, (Doubles{40.0, 30.0, 20.0, 10.0, 9.5}));
   Ints keyInts = {3, 1, 2}, dataInts = {1, 2, 3, 4, 5, 6}, more = {7, 8, 9};
   EXPECT_EQ(dll().integer(L"VB_SortQLng", {dataInts, 3, 2, 2, 3, keyInts, more, 1, true, false}), 0);
   EXPECT_EQ(dataInts, (Ints{1, 3, 2, 4, 6, 5}));

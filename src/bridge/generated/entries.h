@@ -82,8 +82,8 @@ double VB_V_HarmonicMean(double* iVector, int n, VARIANT_BOOL* iMissing, double*
 /// Sets oMissing to -1 where the cell is missing or iMissing is not 0, to 0 elsewhere.
 void VB_V_GetMissingDbl(double* iVector, int n, VARIANT_BOOL* iMissing, VARIANT_BOOL* oMissing);
 
-/// -1 when no cell is below 0 (every cell is above 0 if iStrictly is -1), else 0; there is no test for
-/// missing cells.
+/// -1 when no cell is below 0 (every cell is above 0 if iStrictly is -1), else 0; a missing cell counts
+/// as 0.
 VARIANT_BOOL VB_V_IsPositive(double* iV, int n, VARIANT_BOOL iStrictly);
 
 /// -1 when the sum of the cells is above 0, else 0; single cells are not checked.
@@ -193,15 +193,16 @@ void VB_V_Rescale(
 /// give iLowerBound, flagged and missing cells the missing-value marker.
 void VB_V_Rescale2(double* iVector, int n, double iLowerBound, double iUpperBound, VARIANT_BOOL* iMissing);
 
-/// Writes every product iVect1(a) * iVect2(b) to cell (a - 1) * p2 + b of oVect (1-based), p1 * p2 cells
-/// in all.
+/// Writes every product iVect1(a) * iVect2(b) to cell (a - 1) * p2 + b of oVect (1-based): the first p of
+/// these p1 * p2 cells.
 void VB_V_ProductHorizV1V2(double* iVect1, int p1, double* iVect2, int p2, double* oVect, int p);
 
 /// Replaces ioVect1 by its products with iVect2, ioVect1(a) * iVect2(b) in cell (a - 1) * p2 + b, and
 /// sets iop1 to iop1 * p2; ioVect1 needs room for them.
 void VB_V_ProductHorizV1V22(double* ioVect1, int* iop1, double* iVect2, int p2);
 
-/// -1 when w(i) is greater than Y(i, j) in every row i and column j of the n by p table Y, else 0.
+/// -1 when w(i) is greater than Y(i, j) in every row i and column j of the n by p table Y, else 0; a
+/// missing cell gives 0.
 VARIANT_BOOL VB_V_V1GreaterThanMatCols(double* w, int n, double* Y, int p);
 
 /// Sum of the squares of the cells that are not missing; 0 when there is none.
@@ -258,7 +259,7 @@ int VB_V_SetToValue(double* oVector, int n, double iValue);
 int VB_V_SetToValueLng(int* oVector, int n, int iValue);
 
 /// Makes the labels of LabelX unique in place: the second occurrence gets -2 appended, the third -3 and
-/// so on, or the next free number.
+/// so on, or the next free number. Slots receive new strings, old ones are not freed.
 void VB_V_ReplaceDoubles(BSTR* LabelX, int n);
 
 /// Copies iVect to oVect with iVal2 in place of every cell exactly equal to iVal1; the missing-value
@@ -299,7 +300,7 @@ void VB_V_ProductV1V22(double* ioVect1, int n, double* iVect2);
 /// value.
 void VB_V_ProductV1V2(double* iVect1, int n, double* iVect2, double* oVect);
 
-/// -1 when every cell of iVect1 is smaller than the same cell of iVect2, else 0.
+/// -1 when every cell of iVect1 is smaller than the same cell of iVect2, else 0; a missing cell gives 0.
 VARIANT_BOOL VB_V_V1inferiorV2(double* iVect1, int n, double* iVect2);
 
 /// Sets the n slots of oVect to new copies of ival; former strings are not freed.
@@ -313,11 +314,12 @@ int VB_V_NbDistinct(double* iVect, int n);
 /// to k; the missing-value marker counts as a value.
 void VB_V_ExtractDistinct(double* iVect, int n, double* oVect, int* k);
 
-/// Smallest positive difference between successive times in iVect, taken in ascending order if iDoSort is
-/// -1; the missing-value marker when there is none.
+/// Smallest positive difference between successive times in iVect, missing ones passed over, taken in
+/// ascending order if iDoSort is -1; the missing-value marker when there is none.
 double VB_V_TimeIntervalSize(double* iVect, int n, VARIANT_BOOL iDoSort);
 
-/// -1 when the cells never decrease (always increase if iStrictly is -1), else 0.
+/// -1 when the cells never decrease (always increase if iStrictly is -1), else 0; missing cells are
+/// passed over.
 VARIANT_BOOL VB_V_IsSorted(double* iVect, int n, VARIANT_BOOL iStrictly);
 
 /// Writes the n by n table of products iVect1(i) * iVect2(j) to row i and column j of oMat; a missing
@@ -394,7 +396,8 @@ int VB_SortQLng(
     int pSlave2, VARIANT_BOOL iSortdown, VARIANT_BOOL updateMaster);
 
 /// Sorts rows iLowerBound to iUpperBound (1-based) of text ioSlave and of ioSlave2 stably by keys
-/// ioMaster, descending if iSortdown is -1, keys too if updateMaster is -1. Returns 0.
+/// ioMaster, descending if iSortdown is -1, keys too if updateMaster is -1. New strings, old ones not
+/// freed. Returns 0.
 int VB_SortQStr(
     BSTR* ioSlave, int n, int pSlave, int iLowerBound, int iUpperBound, double* ioMaster, double* ioSlave2,
     int pSlave2, VARIANT_BOOL iSortdown, VARIANT_BOOL updateMaster);
@@ -410,7 +413,7 @@ int VB_SortQBool(
 int VB_SortDataBy01(double* iSlave, int n, int p, double* iMaster, int nOut, VARIANT_BOOL KeepInitialOrder);
 
 /// Sorts all rows of strings iSlave in place by the 0/1 key iMaster, zeros first, each group in its
-/// order; iMaster is sorted too. nOut and KeepInitialOrder are not used; returns 0.
+/// order; iMaster is sorted too. Slots receive new strings, old ones are not freed; returns 0.
 int VB_SortDataBy01Str(BSTR* iSlave, int n, int p, double* iMaster, int nOut, VARIANT_BOOL KeepInitialOrder);
 
 /// Sorts all rows of flags iSlave in place by the 0/1 key iMaster, zeros first, each group in its order;
