@@ -1,5 +1,6 @@
 #include "stats/vector_extremes.h"
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 
@@ -27,26 +28,33 @@ struct Extremes {
 /// Many cells at a time.
 class GroupedExtremes {
  public:
-  /// Sees the given cells; leaves them alone and returns false when one is as low as the marker. NaN replaces
-  /// nothing, since the processor then gives the second operand.
-  template <int count>
-  bool see(const double* cells) {
-    static_assert(count % 4 == 0);
-    __m128d lowA = min_, lowB = min_, highA = max_, highB = max_;
-    // More at once, and the eight registers of 32-bit code do not suffice.
-#pragma GCC unroll 8
-    for (int k = 0; k < count; k += 4) {
-      const __m128d a = _mm_loadu_pd(cells + k), b = _mm_loadu_pd(cells + k + 2);
-      lowA = _mm_min_pd(a, lowA);
-      lowB = _mm_min_pd(b, lowB);
-      highA = _mm_max_pd(a, highA);
-      highB = _mm_max_pd(b, highB);
+  /// Sees whole stretches from row i on, up to one of which a row is flagged, excluded or as low as the
+  /// marker. NaN replaces nothing, since the processor then gives the second operand.
+  ///
+  /// @return the first row not seen
+  template <int rows>
+  int see(const double* x, const char* flags, const short* exclude, int i, int n) {
+    __m128d low = min_, high = max_;
+    while (n - i >= rows && screening::allUsed<rows>(flags + i, exclude == nullptr ? nullptr : exclude + i)) {
+      __m128d lowA = low, lowB = low, highA = high, highB = high;
+      // Left to itself the compiler keeps a loop here that takes twice the time.
+#pragma GCC unroll 16
+      for (int k = 0; k < rows; k += 4) {
+        const __m128d a = _mm_loadu_pd(x + i + k), b = _mm_loadu_pd(x + i + k + 2);
+        lowA = _mm_min_pd(a, lowA);
+        lowB = _mm_min_pd(b, lowB);
+        highA = _mm_max_pd(a, highA);
+        highB = _mm_max_pd(b, highB);
+      }
+      const __m128d lowest = _mm_min_pd(lowA, lowB);
+      if (_mm_movemask_pd(_mm_cmple_pd(lowest, _mm_set1_pd(kMissing))) != 0) break;
+      low = lowest;
+      high = _mm_max_pd(highA, highB);
+      i += rows;
     }
-    const __m128d low = _mm_min_pd(lowA, lowB);
-    if (_mm_movemask_pd(_mm_cmple_pd(low, _mm_set1_pd(kMissing))) != 0) return false;
     min_ = low;
-    max_ = _mm_max_pd(highA, highB);
-    return true;
+    max_ = high;
+    return i;
   }
 
   void tell(Extremes& to) const {
@@ -79,27 +87,19 @@ Extremes extremesOf(const matrix* x, int n, const short* exclude) {
       extremes.seeHigh(cells[i]);
     }
   };
-  const auto from = [exclude](int i) { return exclude == nullptr ? nullptr : exclude + i; };
-  const auto seeGroup = [&](int i) {
-    return screening::allUsed<screening::kGroup>(cells.flags() + i, from(i)) &&
-           grouped.see<screening::kGroup>(cells.values() + i);
-  };
-  const auto seeStretch = [&](int i) {
-    return screening::allUsed<screening::kStretch>(cells.flags() + i, from(i)) &&
-           grouped.see<screening::kStretch>(cells.values() + i);
-  };
-  int i = start + 1;
-  while (i < n) {
-    if (n - i >= screening::kStretch && seeStretch(i)) {
-      i += screening::kStretch;
-      continue;
-    }
+  // Many rows at a time begin where a container's cells are aligned.
+  const int aligned = start + std::min(screening::kGroup - start % screening::kGroup, n - start);
+  see(start + 1, aligned);
+  for (int i = aligned; i < n;) {
+    i = grouped.see<screening::kStretch>(cells.values(), cells.flags(), exclude, i, n);
+    // What stopped it lies in the next stretch.
     const int end = i + std::min(screening::kStretch, n - i);
-    for (; end - i >= screening::kGroup; i += screening::kGroup) {
-      if (!seeGroup(i)) see(i, i + screening::kGroup);
+    while (i < end) {
+      i = grouped.see<screening::kGroup>(cells.values(), cells.flags(), exclude, i, end);
+      const int last = i + std::min(screening::kGroup, end - i);
+      see(i, last);
+      i = last;
     }
-    see(i, end);
-    i = end;
   }
   grouped.tell(extremes);
 
