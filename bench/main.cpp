@@ -1,5 +1,6 @@
 #include "ratios.h"
 
+void enterAlgebra();
 void enterContainers();
 void enterSorting();
 void enterVectorStatistics();
@@ -10,5 +11,6 @@ int main(int argc, char** argv) {
   enterVectorSums();
   enterVectorStatistics();
   enterSorting();
+  enterAlgebra();
   return runContests(argc, argv);
 }

@@ -104,8 +104,87 @@ Option Explicit
   Public Declare PtrSafe Function VB_V_SumIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
   Public Declare PtrSafe Function VB_V_MeanIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
   Public Declare PtrSafe Function VB_V_VarIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double, ByVal iBiased As Boolean) As Double
+  Public Declare PtrSafe Function VB_M_Transpose Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oTransMat As Double) As Long
+  Public Declare PtrSafe Function VB_M_Transpose2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long) As Long
+  Public Declare PtrSafe Function VB_M_Inverse1 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef oInvMat As Double, ByVal Eps As Double) As Long
+  Public Declare PtrSafe Function VB_M_StandardizeKnownMeansStDev Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef oMat As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean) As Long
+  Public Declare PtrSafe Function VB_M_ProductAB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double) As Long
+  Public Declare PtrSafe Function VB_M_ProductABMissing Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double) As Long
+  Public Declare PtrSafe Function VB_M_ProductBV Lib "KAVORATB1C.dll" (ByRef iBMat As Double, ByVal n As Long, ByVal p As Long, ByRef iAVec As Double, ByRef oCVec As Double) As Long
+  Public Declare PtrSafe Function VB_M_MeanStDev Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean, ByVal MissingPerCol As Boolean) As Long
+  Public Declare PtrSafe Function VB_M_Mean Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef iMissing As Boolean, ByRef w As Double) As Long
+  Public Declare PtrSafe Function VB_M_MeanStDevVar Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Long
+  Public Declare PtrSafe Function VB_M_CovCorrAndMeanStDevVar Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef CovCorr As Double, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByVal Correlations As Boolean, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean, ByVal ZeroMeaniMat As Boolean, ByVal StandardizeiMat As Boolean) As Long
+  Public Declare PtrSafe Sub VB_M_CorrMatMat Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByRef CovCorr As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Correlations As Boolean, ByVal Determination As Boolean, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Sub VB_M_Normalize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Norm As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Function VB_M_CovCorr Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef CovCorr As Double, ByVal Correlations As Boolean, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Long
+  Public Declare PtrSafe Sub VB_M_NormalizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
+  Public Declare PtrSafe Sub VB_M_Standardize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Sub VB_M_StandardizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
+  Public Declare PtrSafe Sub VB_M_MeanStDevVarOneInMat Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal IDCol As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Sub VB_M_MinMax Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef VMin As Double, ByRef VMax As Double, ByRef iMissing As Boolean, ByVal MissingPerCol As Boolean)
+  Public Declare PtrSafe Sub VB_M_Sums1As2B Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal s1 As Double, ByVal S2 As Double, ByRef oCMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductVB Lib "KAVORATB1C.dll" (ByRef iAVec As Double, ByVal n As Long, ByRef iBMat As Double, ByVal p As Long, ByRef oCVec As Double)
+  Public Declare PtrSafe Sub VB_M_ProductTrAB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductATrB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductTrAA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oTrAAMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductATrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oATrAMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductADTrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagMat As Double, ByRef oADTrA As Double)
+  Public Declare PtrSafe Sub VB_M_ProductTrADA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagMat As Double, ByRef oTrADA As Double)
+  Public Declare PtrSafe Sub VB_M_ProductADiag Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagMat As Double, ByRef oADiagMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductTrADiag Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagMat As Double, ByRef oTrADiagMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductABTrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByRef oCMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductTrABA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByRef oCMat As Double)
+  Public Declare PtrSafe Function VB_M_ProductTrVBV Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iBMat As Double) As Double
+  Public Declare PtrSafe Sub VB_M_ProductTrAinvBA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByRef oCMat As Double)
+  Public Declare PtrSafe Function VB_M_ProductTrVinvBV Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iBMat As Double) As Double
+  Public Declare PtrSafe Sub VB_M_ProductAinvBTrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByRef oCMat As Double)
+  Public Declare PtrSafe Sub VB_M_ScalarsA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef osAMat As Double)
+  Public Declare PtrSafe Sub VB_M_ScalarsA2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double)
+  Public Declare PtrSafe Sub VB_M_ScalarsTrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef osTrAMat As Double)
+  Public Declare PtrSafe Sub VB_M_APlusVal Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal ival As Double, ByRef oAPlusVal As Double)
+  Public Declare PtrSafe Sub VB_M_Square Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
+  Public Declare PtrSafe Function VB_M_Trace Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long) As Double
+  Public Declare PtrSafe Sub VB_M_EuclidDist2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oDistMat As Double, ByRef w As Double, ByVal iByRows As Boolean)
+  Public Declare PtrSafe Sub VB_M_SumByCols Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
+  Public Declare PtrSafe Sub VB_M_SumByRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare PtrSafe Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iAMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal oMat As LongPtr)
+  Public Declare PtrSafe Sub VB_M_StandardizeByVect Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_StandardizeByVect2 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Sub VB_M_RescaleByVect Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_RescaleByVect2 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean)
+  Public Declare PtrSafe Sub VB_M_ProductHorizAB Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByRef oMat As Double, ByVal p As Long)
+  Public Declare PtrSafe Sub VB_M_ProductHorizAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long)
+  Public Declare PtrSafe Sub VB_M_Symmetrize Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iType As Long)
+  Public Declare PtrSafe Function VB_M_CheckIfSimOrDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iApriori As Long) As Long
+  Public Declare PtrSafe Sub VB_M_TransformSimToDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long)
+  Public Declare PtrSafe Sub VB_M_Center Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_CenterW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_Center2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
+  Public Declare PtrSafe Sub VB_M_CenterW2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double)
+  Public Declare PtrSafe Sub VB_M_Reduce Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Sub VB_M_ReduceW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByRef oMat As Double, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Sub VB_M_Reduce2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Sub VB_M_ReduceW2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Sub VB_M_Standardize2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Sub VB_M_Standardize3 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMean As Double, ByRef oStdev As Double, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Sub VB_M_StandardizeW2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal Unbiased As Boolean)
+  Public Declare PtrSafe Function VB_M_FrobeniusNorm Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p As Long, ByRef iMat2 As Double) As Double
+  Public Declare PtrSafe Sub VB_M_ProductByElement Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p As Long, ByRef iMat2 As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductADiagV Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_SquaredRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
+  Public Declare PtrSafe Sub VB_M_SquaredColumns Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
+  Public Declare PtrSafe Sub VB_M_Min Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMinVect As Double)
+  Public Declare PtrSafe Sub VB_M_Max Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMaxVect As Double)
+  Public Declare PtrSafe Sub VB_M_CorrMatFromCovMat Lib "KAVORATB1C.dll" (ByRef iCovMat As Double, ByVal p As Long, ByRef oCorrMat As Double)
+  Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iBMat As Double, ByRef iVect2 As Double) As Double
+  Public Declare PtrSafe Sub VB_M_ProductDesignAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByVal iConstraintType As Long, ByRef w As Double, ByRef oInterFreqCat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductDiagVA Lib "KAVORATB1C.dll" (ByRef iDiagVect As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductDiagV1ADiagV2 Lib "KAVORATB1C.dll" (ByRef iDiagVect1 As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef iDiagVect2 As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_StandardizeW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal Unbiased As Boolean, ByVal isBiasOne As Boolean, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductTrADiagVA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_ProductADiagVTrA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare PtrSafe Function VB_SortQVectorLng Lib "KAVORATB1C.dll" (ByRef ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
   Public Declare PtrSafe Function VB_SortQVectorDbl Lib "KAVORATB1C.dll" (ByRef ioVector As Double, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
   Public Declare PtrSafe Function VB_SortQVectorStr Lib "KAVORATB1C.dll" (ByVal ioVector As LongPtr, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
@@ -229,8 +308,87 @@ Option Explicit
   Public Declare Function VB_V_SumIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
   Public Declare Function VB_V_MeanIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
   Public Declare Function VB_V_VarIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double, ByVal iBiased As Boolean) As Double
+  Public Declare Function VB_M_Transpose Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oTransMat As Double) As Long
+  Public Declare Function VB_M_Transpose2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long) As Long
+  Public Declare Function VB_M_Inverse1 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef oInvMat As Double, ByVal Eps As Double) As Long
+  Public Declare Function VB_M_StandardizeKnownMeansStDev Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef oMat As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean) As Long
+  Public Declare Function VB_M_ProductAB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double) As Long
+  Public Declare Function VB_M_ProductABMissing Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double) As Long
+  Public Declare Function VB_M_ProductBV Lib "KAVORATB1C.dll" (ByRef iBMat As Double, ByVal n As Long, ByVal p As Long, ByRef iAVec As Double, ByRef oCVec As Double) As Long
+  Public Declare Function VB_M_MeanStDev Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean, ByVal MissingPerCol As Boolean) As Long
+  Public Declare Function VB_M_Mean Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef iMissing As Boolean, ByRef w As Double) As Long
+  Public Declare Function VB_M_MeanStDevVar Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Long
+  Public Declare Function VB_M_CovCorrAndMeanStDevVar Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef CovCorr As Double, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByVal Correlations As Boolean, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean, ByVal ZeroMeaniMat As Boolean, ByVal StandardizeiMat As Boolean) As Long
+  Public Declare Sub VB_M_CorrMatMat Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByRef CovCorr As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Correlations As Boolean, ByVal Determination As Boolean, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Sub VB_M_Normalize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Norm As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Function VB_M_CovCorr Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef CovCorr As Double, ByVal Correlations As Boolean, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Long
+  Public Declare Sub VB_M_NormalizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
+  Public Declare Sub VB_M_Standardize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Sub VB_M_StandardizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
+  Public Declare Sub VB_M_MeanStDevVarOneInMat Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal IDCol As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Sub VB_M_MinMax Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef VMin As Double, ByRef VMax As Double, ByRef iMissing As Boolean, ByVal MissingPerCol As Boolean)
+  Public Declare Sub VB_M_Sums1As2B Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal s1 As Double, ByVal S2 As Double, ByRef oCMat As Double)
+  Public Declare Sub VB_M_ProductVB Lib "KAVORATB1C.dll" (ByRef iAVec As Double, ByVal n As Long, ByRef iBMat As Double, ByVal p As Long, ByRef oCVec As Double)
+  Public Declare Sub VB_M_ProductTrAB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double)
+  Public Declare Sub VB_M_ProductATrB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double)
+  Public Declare Sub VB_M_ProductTrAA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oTrAAMat As Double)
+  Public Declare Sub VB_M_ProductATrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oATrAMat As Double)
+  Public Declare Sub VB_M_ProductADTrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagMat As Double, ByRef oADTrA As Double)
+  Public Declare Sub VB_M_ProductTrADA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagMat As Double, ByRef oTrADA As Double)
+  Public Declare Sub VB_M_ProductADiag Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagMat As Double, ByRef oADiagMat As Double)
+  Public Declare Sub VB_M_ProductTrADiag Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagMat As Double, ByRef oTrADiagMat As Double)
+  Public Declare Sub VB_M_ProductABTrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByRef oCMat As Double)
+  Public Declare Sub VB_M_ProductTrABA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByRef oCMat As Double)
+  Public Declare Function VB_M_ProductTrVBV Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iBMat As Double) As Double
+  Public Declare Sub VB_M_ProductTrAinvBA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByRef oCMat As Double)
+  Public Declare Function VB_M_ProductTrVinvBV Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iBMat As Double) As Double
+  Public Declare Sub VB_M_ProductAinvBTrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByRef oCMat As Double)
+  Public Declare Sub VB_M_ScalarsA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef osAMat As Double)
+  Public Declare Sub VB_M_ScalarsA2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double)
+  Public Declare Sub VB_M_ScalarsTrA Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal s As Double, ByRef osTrAMat As Double)
+  Public Declare Sub VB_M_APlusVal Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal ival As Double, ByRef oAPlusVal As Double)
+  Public Declare Sub VB_M_Square Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
+  Public Declare Function VB_M_Trace Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long) As Double
+  Public Declare Sub VB_M_EuclidDist2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oDistMat As Double, ByRef w As Double, ByVal iByRows As Boolean)
+  Public Declare Sub VB_M_SumByCols Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
+  Public Declare Sub VB_M_SumByRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iAMat As Long, ByVal n As Long, ByVal p As Long, ByVal oMat As Long)
+  Public Declare Sub VB_M_StandardizeByVect Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByRef oMat As Double)
+  Public Declare Sub VB_M_StandardizeByVect2 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean)
+  Public Declare Sub VB_M_RescaleByVect Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean, ByRef oMat As Double)
+  Public Declare Sub VB_M_RescaleByVect2 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean)
+  Public Declare Sub VB_M_ProductHorizAB Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByRef oMat As Double, ByVal p As Long)
+  Public Declare Sub VB_M_ProductHorizAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long)
+  Public Declare Sub VB_M_Symmetrize Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iType As Long)
+  Public Declare Function VB_M_CheckIfSimOrDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iApriori As Long) As Long
+  Public Declare Sub VB_M_TransformSimToDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long)
+  Public Declare Sub VB_M_Center Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
+  Public Declare Sub VB_M_CenterW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByRef oMat As Double)
+  Public Declare Sub VB_M_Center2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
+  Public Declare Sub VB_M_CenterW2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double)
+  Public Declare Sub VB_M_Reduce Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal Unbiased As Boolean)
+  Public Declare Sub VB_M_ReduceW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByRef oMat As Double, ByVal Unbiased As Boolean)
+  Public Declare Sub VB_M_Reduce2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByVal Unbiased As Boolean)
+  Public Declare Sub VB_M_ReduceW2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal Unbiased As Boolean)
+  Public Declare Sub VB_M_Standardize2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByVal Unbiased As Boolean)
+  Public Declare Sub VB_M_Standardize3 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMean As Double, ByRef oStdev As Double, ByVal Unbiased As Boolean)
+  Public Declare Sub VB_M_StandardizeW2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal Unbiased As Boolean)
+  Public Declare Function VB_M_FrobeniusNorm Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p As Long, ByRef iMat2 As Double) As Double
+  Public Declare Sub VB_M_ProductByElement Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p As Long, ByRef iMat2 As Double, ByRef oMat As Double)
+  Public Declare Sub VB_M_ProductADiagV Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
+  Public Declare Sub VB_M_SquaredRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
+  Public Declare Sub VB_M_SquaredColumns Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
+  Public Declare Sub VB_M_Min Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMinVect As Double)
+  Public Declare Sub VB_M_Max Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMaxVect As Double)
+  Public Declare Sub VB_M_CorrMatFromCovMat Lib "KAVORATB1C.dll" (ByRef iCovMat As Double, ByVal p As Long, ByRef oCorrMat As Double)
+  Public Declare Function VB_M_ProductTrV1BV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iBMat As Double, ByRef iVect2 As Double) As Double
+  Public Declare Sub VB_M_ProductDesignAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByVal iConstraintType As Long, ByRef w As Double, ByRef oInterFreqCat As Double)
+  Public Declare Sub VB_M_ProductDiagVA Lib "KAVORATB1C.dll" (ByRef iDiagVect As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef oMat As Double)
+  Public Declare Sub VB_M_ProductDiagV1ADiagV2 Lib "KAVORATB1C.dll" (ByRef iDiagVect1 As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef iDiagVect2 As Double, ByRef oMat As Double)
+  Public Declare Sub VB_M_StandardizeW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal Unbiased As Boolean, ByVal isBiasOne As Boolean, ByRef oMat As Double)
+  Public Declare Sub VB_M_ProductTrADiagVA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
+  Public Declare Sub VB_M_ProductADiagVTrA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare Function VB_SortQVectorLng Lib "KAVORATB1C.dll" (ByRef ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
   Public Declare Function VB_SortQVectorDbl Lib "KAVORATB1C.dll" (ByRef ioVector As Double, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
   Public Declare Function VB_SortQVectorStr Lib "KAVORATB1C.dll" (ByVal ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long

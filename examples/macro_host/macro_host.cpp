@@ -1,5 +1,6 @@
 // The main job, as a macro would do it on real data: sums and means beside the exact ones, a descriptive
-// table of weighted data with missing cells, the mode of labels, ranks with ties, a table sorted by a key.
+// table of weighted data with missing cells, the mode of labels, ranks with ties, a table sorted by a key,
+// correlations with missing cells, a standardized table, an inverse checked by its product.
 //
 //     macro_host FOLDER    with the folder of the CSV files; a column named "weight" holds row weights
 
@@ -146,6 +147,69 @@ void printSorted(const macro::Module& dll, const std::string& path) {
   }
 }
 
+Doubles columnsOf(const CsvTable& table, const std::vector<std::string>& names) {
+  Doubles cells;
+  for (const std::string& name : names) {
+    const Doubles column = table.numbers(name);
+    cells.insert(cells.end(), column.begin(), column.end());
+  }
+  return cells;
+}
+
+/// A p x p table, names in front of its rows.
+void printSquare(const std::vector<std::string>& names, const Doubles& cells) {
+  const std::size_t p = names.size();
+  for (std::size_t i = 0; i < p; ++i) {
+    std::printf("%-8s", names[i].c_str());
+    for (std::size_t j = 0; j < p; ++j) std::printf(" %10.6f", cells[i + p * j]);
+    std::printf("\n");
+  }
+}
+
+/// Correlations over the pairs of cells that are there.
+void printCorrelations(const macro::Module& dll, const std::string& path) {
+  const CsvTable table(path);
+  const std::vector<std::string> names = variables(table);
+  const int rows = table.rows(), columns = static_cast<int>(names.size());
+  Doubles cells = columnsOf(table, names), weights = weightsOf(table),
+          correlations(names.size() * names.size());
+  Flags none(weights.size());
+  dll.integer(L"VB_M_CovCorr", {cells, rows, columns, correlations, true, none, weights, true, false});
+  std::printf("\nWeighted correlations, each pair over its own rows: %s\n\n", path.c_str());
+  printSquare(names, correlations);
+}
+
+/// A standardized table, and the inverse of its correlations; true when both multiply to the unit matrix.
+bool printStandardized(const macro::Module& dll, const std::string& path) {
+  const CsvTable table(path);
+  const std::vector<std::string> names = {"mpg", "hp", "wt", "qsec"};
+  const int rows = table.rows(), columns = static_cast<int>(names.size());
+  Doubles cells = columnsOf(table, names), means(4), deviations(4), correlations(16), inverse(16),
+          product(16);
+  dll.call(L"VB_M_Standardize3", {cells, rows, columns, means, deviations, true});
+  std::printf("\nStandardized: %s, first rows\n\n", path.c_str());
+  for (std::size_t i = 0; i < 5; ++i) {
+    std::printf("%-20s", table.labels("car")[i].c_str());
+    for (std::size_t j = 0; j < names.size(); ++j) {
+      std::printf(" %9.5f", cells[i + static_cast<std::size_t>(rows) * j]);
+    }
+    std::printf("\n");
+  }
+  dll.call(L"VB_M_ProductTrAA", {cells, rows, columns, correlations});
+  dll.call(L"VB_M_ScalarsA2", {correlations, columns, columns, 1.0 / (rows - 1)});
+  const int status = dll.integer(L"VB_M_Inverse1", {correlations, columns, inverse, 1e-12});
+  dll.integer(L"VB_M_ProductAB", {correlations, columns, columns, inverse, columns, product});
+  std::printf("\nInverse of their correlations\n\n");
+  printSquare(names, inverse);
+  double worst = 0.0;
+  for (std::size_t k = 0; k < product.size(); ++k) {
+    worst = std::fmax(worst, std::fabs(product[k] - (k % 5 == 0 ? 1.0 : 0.0)));
+  }
+  std::printf("\nCorrelations times inverse differ from the unit matrix by %s\n",
+              worst < 1e-14 ? "less than 1e-14" : "more");
+  return status == 0 && worst < 1e-14;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -160,9 +224,11 @@ int main(int argc, char** argv) {
     printQuartiles(dll, folder + "/longley_missing.csv");
     printModes(dll, folder + "/warpbreaks.csv");
     printSorted(dll, folder + "/mtcars.csv");
+    printCorrelations(dll, folder + "/longley_missing.csv");
+    const bool inverted = printStandardized(dll, folder + "/mtcars.csv");
     std::printf("\n%s\n", complete && missing ? "All means agree with the exact ones."
                                               : "Some means differ from the exact ones.");
-    return complete && missing ? 0 : 1;
+    return complete && missing && inverted ? 0 : 1;
   } catch (const std::exception& problem) {
     std::fprintf(stderr, "macro_host: %s\n", problem.what());
     return 2;

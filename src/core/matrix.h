@@ -125,6 +125,111 @@ class KAV_API matrix {
   /// outside.
   double getWeightcorr(int j) const;
 
+  // Statistics of the columns. Rows count with their weights; cells that are missing do not count.
+
+  /// Cached mean and standard deviation of a column, computed by calcDescStat when they are stale or of
+  /// another mode; -1.0 outside.
+  double getDescMu(int j, short mode);
+  double getDescSigma(int j, short mode);
+
+  /// Fills descmu, descsigma and weightcorr for a mode, unless they are valid for it. With W the sum of the
+  /// weights of the c cells that count: weightcorr is W - W/c in mode -1, else W. Without a cell both
+  /// statistics are the marker and weightcorr stays; with a denominator not above 0 the deviation is the
+  /// marker.
+  /// @return 0
+  int calcDescStat(short mode);
+
+  /// Standardizes every column in place by its mean and unbiased deviation (denominator W - W/c), which are
+  /// kept in normu and norsigma; a column that does not vary is only centred. Flagged cells stay, an
+  /// unflagged marker is transformed like a number.
+  /// @return 0; -1, with nothing done, when the container is normalized already
+  int Normalize();
+
+  /// Divides a column by its Euclidean length over all rows, by 1 when that is 0.
+  /// @return 0
+  int Normalize(int j);
+
+  /// Sum of the squares of a column over all rows, as stored.
+  double VInnerProd(int j) const;
+
+  /// Multiplies row i by s; row r by s[r] for r < n. Rows outside and a null s change nothing.
+  /// @return 0.0
+  double SProd(int i, double s);
+  double weighting(const double* s, int n);
+
+  /// Inverse of the nX x nX matrix: LU decomposition with implicit scaling and partial pivoting (Crout, as in
+  /// Press et al., Numerical Recipes, section 2.3), of equal pivots the last.
+  ///
+  /// @param out       receives the inverse by the element rule; as it was when singular; may be this matrix
+  /// @param singular  set to -1 when singular, else as it was
+  /// @param tol       only its sign counts: pivots up to 1e-8 in absolute value are zero when it is above 0,
+  /// up to
+  ///                  2.220446049250313e-16 otherwise
+  /// @return 0, or -1 when singular. Throws std::bad_alloc.
+  int inverse1(matrix* out, short& singular, double tol) const;
+
+  // Projection steps of alternating least squares, with missing cells. X is this table, t the table of the
+  // other factor, k the 0-based column of t that is used and of out that is written by the element rule. A
+  // cell of X that is flagged, NaN or the marker is absent: its term is left out of the denominator, not of
+  // the numerator, where a flagged cell counts by what it holds. A denominator of 0.0 or NaN counts as 1.0.
+  // Throw std::bad_alloc.
+
+  /// Row step: out(r, k) = sum over j of X(r, j) t(j, k) / sum of t(j, k)^2, for the rows r of out. The
+  /// weighted form multiplies the numerator's terms by the weight of row r.
+  void GaussProd(const matrix* t, int k, matrix* out) const;
+  void GaussProdWeighted(const matrix* t, int k, matrix* out) const;
+
+  /// Column step: out(c, k) = sum over i of X(i, c) t(i, k) / sum of t(i, k)^2, for the rows c of out. The
+  /// weighted form weights the numerator by this table's rows, the denominator by those of t.
+  void transGaussProd(const matrix* t, int k, matrix* out) const;
+  void transGaussProdWeighted(const matrix* t, int k, matrix* out) const;
+
+  /// Sum of the squares of column col over all rows i, but those where the companion cell of m is absent:
+  /// m(idx, i) when byRow, else m(i, idx). Companions outside m are not absent. The weighted form multiplies
+  /// by the row's weight.
+  double VInnerProd(int col, bool byRow, int idx, const matrix* m) const;
+  double VInnerProdWeighted(int col, bool byRow, int idx, const matrix* m) const;
+
+  // Products with this table as first operand, over its own sizes; other operands read -1.0 outside, results
+  // are written by the element rule. Throw std::bad_alloc.
+
+  /// out = X.b and X'.b, with as many columns as b.
+  void matProd(const matrix* b, matrix* out) const;
+  void transMatProd(const matrix* b, matrix* out) const;
+
+  /// Column outCol of out = X times column col of v.
+  void matVecProd(const matrix* v, int col, matrix* out, int outCol) const;
+
+  /// Scalar product of column col with column vCol of v, over this table's rows.
+  double vecProd(int col, const matrix* v, int vCol) const;
+
+  /// Adds the outer product of row i with itself, times the row's weight, to the pX x pX table out.
+  void trans1vecProd(int i, matrix* out) const;
+
+  /// Multiplies column j, or row i, by s.
+  void VSProd(int j, double s);
+  void transVSProd(int i, double s);
+
+  /// Sum of the squares of row i.
+  double lineSqrSum(int i) const;
+
+  /// Sum of the squared differences of column col to column otherCol of another table, and of all cells.
+  double VDiff(int col, const matrix* other, int otherCol) const;
+  double MDiff(const matrix* other) const;
+
+  /// Weighted mean of the present cells of a column; the marker when there is none.
+  double calcMu(int j) const;
+
+  /// Every cell x becomes 1 - x.
+  void oneMinus();
+
+  /// Takes the part that factor k explains off: X(i, j) -= scores(i, k) loadings(j, k).
+  void subtractResidual(const matrix* scores, const matrix* loadings, int k);
+
+  /// Row i of out = the sum over the first factors k of scores(i, k) loadings(j, k), for this table's columns
+  /// j.
+  void predictLine(int i, const matrix* scores, const matrix* loadings, int factors, matrix* out) const;
+
   // Transfer.
 
   /// Gives target the shape nX x pX and the value v in every cell. A target of that shape is refilled, flags

@@ -3,3 +3,7 @@
 
 /// What counts as zero.
 inline constexpr double kZero = 1e-12;
+
+/// The machine epsilon, 2^-52.
+inline constexpr double kEpsilon = 2.220446049250313e-16;
+static_assert(kEpsilon == 0x1p-52);

@@ -41,7 +41,7 @@ std::vector<const macro::Procedure*> builtEntries() {
 std::string plain(std::wstring_view name) { return std::string(name.begin(), name.end()); }
 
 AnyArguments::AnyArguments(const macro::Procedure& procedure, Extent extent)
-    : rows_(extent == Extent::Small ? 3 : 150),
+    : rows_(extent == Extent::Small ? 3 : 120),
       cells_(extent == Extent::Small ? 64 : 512),
       missing_(extent == Extent::Large) {
   for (const macro::Parameter& parameter : procedure.parameters) add(parameter);
@@ -65,9 +65,8 @@ void AnyArguments::add(const macro::Parameter& parameter) {
         arguments_.emplace_back(0.385);
         break;
       }
-      // A result may be a table of rows x rows.
-      doubles_.emplace_back(parameter.name.front() == L'o' ? static_cast<std::size_t>(rows_ * rows_) + cells_
-                                                           : cells_);
+      // It may be a table of rows x rows.
+      doubles_.emplace_back(cells_ + static_cast<std::size_t>(rows_ * rows_));
       for (std::size_t k = 0; k < doubles_.back().size(); ++k) {
         doubles_.back()[k] = 2.385 + 0.75 * seed + static_cast<double>((k * 7) % 11) * 0.618;
       }

@@ -21,7 +21,7 @@ std::string plain(std::wstring_view name);
 /// How large the arrays of a call are.
 enum class Extent {
   Small,  ///< sizes of 3: what an entry wraps fits into its adaptors
-  Large   ///< 150 rows, a missing cell in every array of doubles: arrays are copied to memory of their own
+  Large   ///< 120 rows, a missing cell in every array of doubles: arrays are copied to memory of their own
 };
 
 /// Arguments for one call of an entry, and the arrays behind them. The first size is the extent's, the others

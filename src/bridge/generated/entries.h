@@ -352,11 +352,322 @@ double VB_V_MeanIf(double* iVect, int n, double* iVect2, double ival);
 /// count if iBiased is -1; the missing-value marker when it cannot be computed.
 double VB_V_VarIf(double* iVect, int n, double* iVect2, double ival, VARIANT_BOOL iBiased);
 
+/// Writes the transpose (p x n) of the n x p table into oTransMat; markers stay as they are. Returns 0.
+int VB_M_Transpose(double* iAMat, int n, int p, double* oTransMat);
+
+/// Replaces the n x p table by its p x n transpose, in place; markers stay as they are. Returns 0.
+int VB_M_Transpose2(double* iAMat, int n, int p);
+
+/// Inverse of the n x n table into oInvMat; returns 0, or -1 when it is singular. A pivot counts as zero
+/// up to 1E-08 when Eps is positive, else up to 2.2E-16.
+int VB_M_Inverse1(double* iAMat, int n, double* oInvMat, double Eps);
+
+/// Writes (x - Mean) / StDev per column into oMat and StDev squared into Var; a deviation not above 0
+/// gives 0.0. Missing cells and flagged rows stay. Returns 0.
+int VB_M_StandardizeKnownMeansStDev(
+    double* iMat, int n, int p, double* Mean, double* oMat, double* StDev, double* Var,
+    VARIANT_BOOL* iMissing);
+
+/// Writes A.B (n x m) into oCMat; a missing operand shows in the result. Returns 0.
+int VB_M_ProductAB(double* iAMat, int n, int p, double* iBMat, int m, double* oCMat);
+
+/// Writes A.B (n x m) into oCMat; a cell with a missing term comes out as the marker. Returns 0.
+int VB_M_ProductABMissing(double* iAMat, int n, int p, double* iBMat, int m, double* oCMat);
+
+/// Writes B.v (n cells) into oCVec, B being n x p and v having p cells; a missing operand shows in the
+/// result. Returns 0.
+int VB_M_ProductBV(double* iBMat, int n, int p, double* iAVec, double* oCVec);
+
+/// Weighted mean and deviation of each column; the marker without a used row. Missing cells are left out
+/// when MissingPerCol is set, else they count as 0.0. Returns 0.
+int VB_M_MeanStDev(
+    double* iMat, int n, int p, double* Mean, double* StDev, VARIANT_BOOL* iMissing, double* w,
+    VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne, VARIANT_BOOL MissingPerCol);
+
+/// Weighted mean of each column over the rows without a flag; 0.0 without a used row. A missing cell
+/// counts as 0.0. Returns 0.
+int VB_M_Mean(double* iMat, int n, int p, double* Mean, VARIANT_BOOL* iMissing, double* w);
+
+/// Weighted mean, standard deviation and variance of each column over the rows without a flag; the marker
+/// when they cannot be computed. Returns 0.
+int VB_M_MeanStDevVar(
+    double* iMat, int n, int p, double* Mean, double* StDev, double* Var, VARIANT_BOOL* iMissing, double* w,
+    VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Covariances or correlations (p x p), means, deviations and variances of the columns; ZeroMeaniMat
+/// centres and StandardizeiMat standardises iMat in place. Returns 0.
+int VB_M_CovCorrAndMeanStDevVar(
+    double* iMat, int n, int p, double* CovCorr, double* Mean, double* StDev, double* Var,
+    VARIANT_BOOL Correlations, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
+    VARIANT_BOOL BiasIsOne, VARIANT_BOOL ZeroMeaniMat, VARIANT_BOOL StandardizeiMat);
+
+/// Covariances (p1 x p2) of the columns of iMat1 with those of iMat2 into CovCorr; correlations when
+/// Correlations is set, their squares when Determination is set.
+void VB_M_CorrMatMat(
+    double* iMat1, int n, int p1, double* iMat2, int p2, double* CovCorr, VARIANT_BOOL* iMissing, double* w,
+    VARIANT_BOOL Correlations, VARIANT_BOOL Determination, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Divides each column of iMat, in place, by the root of its sum of squares over the usable rows; the p
+/// divisors go into Norm.
+void VB_M_Normalize(
+    double* iMat, int n, int p, double* Norm, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
+    VARIANT_BOOL BiasIsOne);
+
+/// Weighted covariances or correlations (p x p), missing cells dropped pair by pair; a pair without rows
+/// gives the marker, a constant column correlations of 0.0. Returns 0.
+int VB_M_CovCorr(
+    double* iMat, int n, int p, double* CovCorr, VARIANT_BOOL Correlations, VARIANT_BOOL* iMissing,
+    double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Standardises three tables of p columns in place by the means and deviations of ioM1, times the square
+/// root of n1 / (n1 - 1).
+void VB_M_NormalizeMatrix(double* ioM1, int n1, int p, double* ioM2, int n2, double* ioM3, int n3);
+
+/// Writes (x - mean) / deviation into oMat and the column statistics into Mean, StDev and Var; flagged
+/// rows are left out of these. A constant column becomes 0.0.
+void VB_M_Standardize(
+    double* iMat, int n, int p, double* oMat, double* Mean, double* StDev, double* Var,
+    VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Standardises three tables of p columns in place by the column means and unbiased deviations of ioM1; a
+/// constant column becomes 0.0.
+void VB_M_StandardizeMatrix(double* ioM1, int n1, int p, double* ioM2, int n2, double* ioM3, int n3);
+
+/// Weighted mean, standard deviation and variance of column IDCol (1-based) over the rows without a flag;
+/// the marker when they cannot be computed.
+void VB_M_MeanStDevVarOneInMat(
+    double* iMat, int n, int IDCol, double* Mean, double* StDev, double* Var, VARIANT_BOOL* iMissing,
+    double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Smallest and largest value of each column; leaves out flagged rows, or instead missing cells when
+/// MissingPerCol is -1. The marker when no cell is used.
+void VB_M_MinMax(
+    double* iMat, int n, int p, double* VMin, double* VMax, VARIANT_BOOL* iMissing,
+    VARIANT_BOOL MissingPerCol);
+
+/// Writes s1.A + S2.B (n x p) into oCMat; a missing operand shows in the result.
+void VB_M_Sums1As2B(double* iAMat, int n, int p, double* iBMat, double s1, double S2, double* oCMat);
+
+/// Writes v'.B (p cells) into oCVec, v having n cells and B being n x p; a missing operand shows in the
+/// result.
+void VB_M_ProductVB(double* iAVec, int n, double* iBMat, int p, double* oCVec);
+
+/// Writes A'.B (p x m) into oCMat, A being n x p and B n x m; a missing operand shows in the result.
+void VB_M_ProductTrAB(double* iAMat, int n, int p, double* iBMat, int m, double* oCMat);
+
+/// Writes A.B' (n x m) into oCMat, A being n x p and B m x p; a missing operand shows in the result.
+void VB_M_ProductATrB(double* iAMat, int n, int p, double* iBMat, int m, double* oCMat);
+
+/// Writes A'.A (p x p) into oTrAAMat; a missing operand shows in the result.
+void VB_M_ProductTrAA(double* iAMat, int n, int p, double* oTrAAMat);
+
+/// Writes A.A' (n x n) into oATrAMat; a missing operand shows in the result.
+void VB_M_ProductATrA(double* iAMat, int n, int p, double* oATrAMat);
+
+/// Writes A.D.A' (n x n) into oADTrA; only the diagonal of the p x p table D is used.
+void VB_M_ProductADTrA(double* iAMat, int n, int p, double* iDiagMat, double* oADTrA);
+
+/// Writes A'.D.A (p x p) into oTrADA; only the diagonal of the n x n table D is used.
+void VB_M_ProductTrADA(double* iAMat, int n, int p, double* iDiagMat, double* oTrADA);
+
+/// Writes A.D (n x p) into oADiagMat; only the diagonal of the p x p table D is used.
+void VB_M_ProductADiag(double* iAMat, int n, int p, double* iDiagMat, double* oADiagMat);
+
+/// Writes A'.D (p x n) into oTrADiagMat; only the diagonal of the n x n table D is used.
+void VB_M_ProductTrADiag(double* iAMat, int n, int p, double* iDiagMat, double* oTrADiagMat);
+
+/// Writes A.B.A' (n x n) into oCMat, B being p x p; a missing operand shows in the result.
+void VB_M_ProductABTrA(double* iAMat, int n, int p, double* iBMat, double* oCMat);
+
+/// Writes A'.B.A (p x p) into oCMat, B being n x n; a missing operand shows in the result.
+void VB_M_ProductTrABA(double* iAMat, int n, int p, double* iBMat, double* oCMat);
+
+/// Returns v'.B.v, v having n cells and B being n x n; a missing operand shows in the result.
+double VB_M_ProductTrVBV(double* iVect, int n, double* iBMat);
+
+/// Writes A'.inv(B).A (p x p) into oCMat, B being n x n; the inverse of a singular B counts as zeros.
+void VB_M_ProductTrAinvBA(double* iAMat, int n, int p, double* iBMat, double* oCMat);
+
+/// Returns v'.inv(B).v, v having n cells and B being n x n; the inverse of a singular B counts as zeros.
+double VB_M_ProductTrVinvBV(double* iVect, int n, double* iBMat);
+
+/// Writes A.inv(B).A' (n x n) into oCMat, B being p x p; the inverse of a singular B counts as zeros.
+void VB_M_ProductAinvBTrA(double* iAMat, int n, int p, double* iBMat, double* oCMat);
+
+/// Writes s.A (n x p) into osAMat; a missing operand shows in the result.
+void VB_M_ScalarsA(double* iAMat, int n, int p, double s, double* osAMat);
+
+/// Multiplies every cell of iAMat by s, in place.
+void VB_M_ScalarsA2(double* iAMat, int n, int p, double s);
+
+/// Writes s.A' (p x n) into osTrAMat; a missing operand shows in the result.
+void VB_M_ScalarsTrA(double* iAMat, int n, int p, double s, double* osTrAMat);
+
+/// Writes A with ival added to every cell (n x p) into oAPlusVal.
+void VB_M_APlusVal(double* iAMat, int n, int p, double ival, double* oAPlusVal);
+
+/// Squares the cells of ioMat in place, except the whole first column and the first cell of the second
+/// column.
+void VB_M_Square(double* ioMat, int n, int p);
+
+/// Returns the sum of the diagonal of the n x n table.
+double VB_M_Trace(double* iAMat, int n);
+
+/// Writes squared weighted distances between rows (n x n, p weights) into oDistMat, or between columns (p
+/// x p, n weights) when iByRows is 0.
+void VB_M_EuclidDist2(double* iAMat, int n, int p, double* oDistMat, double* w, VARIANT_BOOL iByRows);
+
+/// Sum of each column, into oSums (p); a missing cell shows in its sum.
+void VB_M_SumByCols(double* iMat, int n, int p, double* oSums);
+
+/// Sum of each row, into oSums (n); a missing cell shows in its sum.
+void VB_M_SumByRows(double* iMat, int n, int p, double* oSums);
+
 /// Copies the table cell by cell into oMat (n x p); markers stay as they are.
 void VB_M_DuplicateDbl(double* iAMat, int n, int p, double* oMat);
 
 /// Copies the string table into oMat (n x p) as new strings; what the slots of oMat held is not freed.
 void VB_M_DuplicateStr(BSTR* iAMat, int n, int p, BSTR* oMat);
+
+/// Standardises each column into oMat by its weighted mean and deviation; n x p flags. Flagged or missing
+/// cells become the marker, a constant column 0.0.
+void VB_M_StandardizeByVect(
+    double* iMat, int n, int p, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, double* oMat);
+
+/// Standardises each column in place by its weighted mean and deviation; n x p flags. Flagged or missing
+/// cells become the marker, a constant column 0.0.
+void VB_M_StandardizeByVect2(
+    double* iMat, int n, int p, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased);
+
+/// Maps each column onto iLowerBound to iUpperBound, into oMat; n x p flags. Flagged or missing cells
+/// become the marker, a constant column the lower bound.
+void VB_M_RescaleByVect(
+    double* iMat, int n, int p, double iLowerBound, double iUpperBound, VARIANT_BOOL* iMissing, double* oMat);
+
+/// Maps each column onto iLowerBound to iUpperBound, in place; n x p flags. Flagged or missing cells
+/// become the marker, a constant column the lower bound.
+void VB_M_RescaleByVect2(
+    double* iMat, int n, int p, double iLowerBound, double iUpperBound, VARIANT_BOOL* iMissing);
+
+/// Writes all products of a column of iMat1 with a column of iMat2, row by row, into oMat (n x p1.p2);
+/// the column of iMat2 varies fastest.
+void VB_M_ProductHorizAB(double* iMat1, int n, int p1, double* iMat2, int p2, double* oMat, int p);
+
+/// Replaces ioMat1 by all products of its columns with those of iMat2, row by row (n x iop1.p2); iop1
+/// becomes iop1.p2. The array must be large enough.
+void VB_M_ProductHorizAB2(double* ioMat1, int n, int* iop1, double* iMat2, int p2);
+
+/// Makes the n x n table symmetric in place: iType 0 takes the mean of both triangles, 1 copies upper to
+/// lower, 2 lower to upper.
+void VB_M_Symmetrize(double* t, int n, int iType);
+
+/// Returns 0 for a table of dissimilarities, 1 for similarities, iApriori when both fit, -1 when neither
+/// does.
+int VB_M_CheckIfSimOrDissim(double* t, int n, int iApriori);
+
+/// Replaces similarities by dissimilarities in place: s(i,i) - s(i,j) for i below j, mirrored, with a
+/// diagonal of 0.0.
+void VB_M_TransformSimToDissim(double* t, int n);
+
+/// Writes each column minus its mean into oMat (n x p); a missing cell counts as 0.0.
+void VB_M_Center(double* iMat, int n, int p, double* oMat);
+
+/// Writes each column minus its weighted mean into oMat (n x p); rows of weight 0.0 do not enter the
+/// mean, a missing cell counts as 0.0.
+void VB_M_CenterW(double* iMat, int n, int p, double* w, double* oMat);
+
+/// Subtracts its mean from each column, in place; a missing cell counts as 0.0 in the mean and stays
+/// missing.
+void VB_M_Center2(double* ioMat, int n, int p);
+
+/// Subtracts its weighted mean from each column, in place; a missing cell counts as 0.0 in the mean and
+/// stays missing.
+void VB_M_CenterW2(double* ioMat, int n, int p, double* w);
+
+/// Writes each column divided by its standard deviation into oMat (n x p), without centring; a constant
+/// column becomes 0.0, a missing cell counts as 0.0.
+void VB_M_Reduce(double* iMat, int n, int p, double* oMat, VARIANT_BOOL Unbiased);
+
+/// Writes each column divided by its weighted standard deviation into oMat (n x p), without centring; a
+/// constant column becomes 0.0.
+void VB_M_ReduceW(double* iMat, int n, int p, double* w, double* oMat, VARIANT_BOOL Unbiased);
+
+/// Divides each column by its standard deviation, in place, without centring; a constant column becomes
+/// 0.0, a missing cell stays missing.
+void VB_M_Reduce2(double* ioMat, int n, int p, VARIANT_BOOL Unbiased);
+
+/// Divides each column by its weighted standard deviation, in place, without centring; a constant column
+/// becomes 0.0, a missing cell stays missing.
+void VB_M_ReduceW2(double* ioMat, int n, int p, double* w, VARIANT_BOOL Unbiased);
+
+/// Standardises each column in place: (x - mean) / deviation, divisor n - 1 when Unbiased is -1, else n.
+/// A constant column becomes 0.0, a missing cell stays missing.
+void VB_M_Standardize2(double* ioMat, int n, int p, VARIANT_BOOL Unbiased);
+
+/// Standardises each column in place and writes the p means and deviations into oMean and oStdev. A
+/// constant column becomes 0.0, a missing cell stays missing.
+void VB_M_Standardize3(double* ioMat, int n, int p, double* oMean, double* oStdev, VARIANT_BOOL Unbiased);
+
+/// Standardises each column in place by its weighted mean and deviation. A constant column becomes 0.0, a
+/// missing cell stays missing.
+void VB_M_StandardizeW2(double* ioMat, int n, int p, double* w, VARIANT_BOOL Unbiased);
+
+/// Returns the sum of the products of the cells of iMat1 and iMat2, trace(A'.B); no root is taken.
+double VB_M_FrobeniusNorm(double* iMat1, int n, int p, double* iMat2);
+
+/// Writes the cell by cell product of iMat1 and iMat2 into oMat (n x p); a missing operand shows in the
+/// result.
+void VB_M_ProductByElement(double* iMat1, int n, int p, double* iMat2, double* oMat);
+
+/// Writes A.diag(v) (n x p) into oMat: column j times cell j of iDiagVect (p cells).
+void VB_M_ProductADiagV(double* iMat, int n, int p, double* iDiagVect, double* oMat);
+
+/// Sum of squares of each row, into oVect (n); a missing cell shows in its sum.
+void VB_M_SquaredRows(double* iMat, int n, int p, double* oVect);
+
+/// Sum of squares of each column, into oVect (p); a missing cell shows in its sum.
+void VB_M_SquaredColumns(double* iMat, int n, int p, double* oVect);
+
+/// Smallest value of each column, into oMinVect (p); cells with the marker are passed over, and a column
+/// of markers gives the marker.
+void VB_M_Min(double* iMat, int n, int p, double* oMinVect);
+
+/// Largest value of each column, into oMaxVect (p); cells with the marker are passed over, and a column
+/// of markers gives the marker.
+void VB_M_Max(double* iMat, int n, int p, double* oMaxVect);
+
+/// Correlations (p x p) from covariances, into oCorrMat; a variable without variance gives 0.0, even on
+/// the diagonal.
+void VB_M_CorrMatFromCovMat(double* iCovMat, int p, double* oCorrMat);
+
+/// Returns x'.B.y, x and y having n cells and B being n x n; a missing operand shows in the result.
+double VB_M_ProductTrV1BV2(double* iVect1, int n, double* iBMat, double* iVect2);
+
+/// Interaction of two coded blocks, into ioMat1; iop1 becomes iop1.p2. iConstraintType 3 divides by
+/// weight sums; oInterFreqCat receives the positive ones.
+void VB_M_ProductDesignAB2(
+    double* ioMat1, int n, int* iop1, double* iMat2, int p2, int iConstraintType, double* w,
+    double* oInterFreqCat);
+
+/// Writes diag(v).A (n x p) into oMat: row i times cell i of iDiagVect (n cells).
+void VB_M_ProductDiagVA(double* iDiagVect, int n, double* iMat, int p, double* oMat);
+
+/// Writes diag(x).A.diag(y) (n x p) into oMat, x = iDiagVect1 having n cells and y = iDiagVect2 p cells.
+void VB_M_ProductDiagV1ADiagV2(
+    double* iDiagVect1, int n, double* iMat, int p, double* iDiagVect2, double* oMat);
+
+/// Writes each column into oMat (n x p) standardised by its weighted mean and deviation; a constant
+/// column becomes 0.0.
+void VB_M_StandardizeW(
+    double* iMat, int n, int p, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL isBiasOne, double* oMat);
+
+/// Writes A'.diag(v).A (p x p) into oMat, iDiagVect having n cells; a missing operand shows in the
+/// result.
+void VB_M_ProductTrADiagVA(double* iMat, int n, int p, double* iDiagVect, double* oMat);
+
+/// Writes A.diag(v).A' (n x n) into oMat, iDiagVect having p cells; a missing operand shows in the
+/// result.
+void VB_M_ProductADiagVTrA(double* iMat, int n, int p, double* iDiagVect, double* oMat);
 
 /// Sorts cells iLowerBound to iUpperBound (1-based, inclusive) of ioVector in place, ascending, or
 /// descending when iSortdown is not 0; returns 0.

@@ -410,12 +410,386 @@ KAV_ENTRY double KAV_CALL VB_V_VarIf(
   return guarded<double>([&] { return entries::VB_V_VarIf(iVect, n, iVect2, ival, iBiased); });
 }
 
+KAV_ENTRY int KAV_CALL VB_M_Transpose(double* iAMat, int n, int p, double* oTransMat) noexcept {
+  return guarded<int>([&] { return entries::VB_M_Transpose(iAMat, n, p, oTransMat); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_Transpose2(double* iAMat, int n, int p) noexcept {
+  return guarded<int>([&] { return entries::VB_M_Transpose2(iAMat, n, p); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_Inverse1(double* iAMat, int n, double* oInvMat, double Eps) noexcept {
+  return guarded<int>([&] { return entries::VB_M_Inverse1(iAMat, n, oInvMat, Eps); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_StandardizeKnownMeansStDev(
+    double* iMat, int n, int p, double* Mean, double* oMat, double* StDev, double* Var,
+    VARIANT_BOOL* iMissing) noexcept {
+  return guarded<int>([&] { return entries::VB_M_StandardizeKnownMeansStDev(iMat, n, p, Mean, oMat, StDev, Var, iMissing); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_ProductAB(
+    double* iAMat, int n, int p, double* iBMat, int m, double* oCMat) noexcept {
+  return guarded<int>([&] { return entries::VB_M_ProductAB(iAMat, n, p, iBMat, m, oCMat); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_ProductABMissing(
+    double* iAMat, int n, int p, double* iBMat, int m, double* oCMat) noexcept {
+  return guarded<int>([&] { return entries::VB_M_ProductABMissing(iAMat, n, p, iBMat, m, oCMat); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_ProductBV(double* iBMat, int n, int p, double* iAVec, double* oCVec) noexcept {
+  return guarded<int>([&] { return entries::VB_M_ProductBV(iBMat, n, p, iAVec, oCVec); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_MeanStDev(
+    double* iMat, int n, int p, double* Mean, double* StDev, VARIANT_BOOL* iMissing, double* w,
+    VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne, VARIANT_BOOL MissingPerCol) noexcept {
+  return guarded<int>([&] { return entries::VB_M_MeanStDev(iMat, n, p, Mean, StDev, iMissing, w, Unbiased, BiasIsOne, MissingPerCol); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_Mean(
+    double* iMat, int n, int p, double* Mean, VARIANT_BOOL* iMissing, double* w) noexcept {
+  return guarded<int>([&] { return entries::VB_M_Mean(iMat, n, p, Mean, iMissing, w); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_MeanStDevVar(
+    double* iMat, int n, int p, double* Mean, double* StDev, double* Var, VARIANT_BOOL* iMissing, double* w,
+    VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) noexcept {
+  return guarded<int>([&] { return entries::VB_M_MeanStDevVar(iMat, n, p, Mean, StDev, Var, iMissing, w, Unbiased, BiasIsOne); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_CovCorrAndMeanStDevVar(
+    double* iMat, int n, int p, double* CovCorr, double* Mean, double* StDev, double* Var,
+    VARIANT_BOOL Correlations, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
+    VARIANT_BOOL BiasIsOne, VARIANT_BOOL ZeroMeaniMat, VARIANT_BOOL StandardizeiMat) noexcept {
+  return guarded<int>([&] { return entries::VB_M_CovCorrAndMeanStDevVar(iMat, n, p, CovCorr, Mean, StDev, Var, Correlations, iMissing, w, Unbiased, BiasIsOne, ZeroMeaniMat, StandardizeiMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_CorrMatMat(
+    double* iMat1, int n, int p1, double* iMat2, int p2, double* CovCorr, VARIANT_BOOL* iMissing, double* w,
+    VARIANT_BOOL Correlations, VARIANT_BOOL Determination, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) noexcept {
+  return guarded<void>([&] { return entries::VB_M_CorrMatMat(iMat1, n, p1, iMat2, p2, CovCorr, iMissing, w, Correlations, Determination, Unbiased, BiasIsOne); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Normalize(
+    double* iMat, int n, int p, double* Norm, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
+    VARIANT_BOOL BiasIsOne) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Normalize(iMat, n, p, Norm, iMissing, w, Unbiased, BiasIsOne); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_CovCorr(
+    double* iMat, int n, int p, double* CovCorr, VARIANT_BOOL Correlations, VARIANT_BOOL* iMissing,
+    double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) noexcept {
+  return guarded<int>([&] { return entries::VB_M_CovCorr(iMat, n, p, CovCorr, Correlations, iMissing, w, Unbiased, BiasIsOne); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_NormalizeMatrix(
+    double* ioM1, int n1, int p, double* ioM2, int n2, double* ioM3, int n3) noexcept {
+  return guarded<void>([&] { return entries::VB_M_NormalizeMatrix(ioM1, n1, p, ioM2, n2, ioM3, n3); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Standardize(
+    double* iMat, int n, int p, double* oMat, double* Mean, double* StDev, double* Var,
+    VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Standardize(iMat, n, p, oMat, Mean, StDev, Var, iMissing, w, Unbiased, BiasIsOne); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_StandardizeMatrix(
+    double* ioM1, int n1, int p, double* ioM2, int n2, double* ioM3, int n3) noexcept {
+  return guarded<void>([&] { return entries::VB_M_StandardizeMatrix(ioM1, n1, p, ioM2, n2, ioM3, n3); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_MeanStDevVarOneInMat(
+    double* iMat, int n, int IDCol, double* Mean, double* StDev, double* Var, VARIANT_BOOL* iMissing,
+    double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) noexcept {
+  return guarded<void>([&] { return entries::VB_M_MeanStDevVarOneInMat(iMat, n, IDCol, Mean, StDev, Var, iMissing, w, Unbiased, BiasIsOne); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_MinMax(
+    double* iMat, int n, int p, double* VMin, double* VMax, VARIANT_BOOL* iMissing,
+    VARIANT_BOOL MissingPerCol) noexcept {
+  return guarded<void>([&] { return entries::VB_M_MinMax(iMat, n, p, VMin, VMax, iMissing, MissingPerCol); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Sums1As2B(
+    double* iAMat, int n, int p, double* iBMat, double s1, double S2, double* oCMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Sums1As2B(iAMat, n, p, iBMat, s1, S2, oCMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductVB(double* iAVec, int n, double* iBMat, int p, double* oCVec) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductVB(iAVec, n, iBMat, p, oCVec); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductTrAB(
+    double* iAMat, int n, int p, double* iBMat, int m, double* oCMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductTrAB(iAMat, n, p, iBMat, m, oCMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductATrB(
+    double* iAMat, int n, int p, double* iBMat, int m, double* oCMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductATrB(iAMat, n, p, iBMat, m, oCMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductTrAA(double* iAMat, int n, int p, double* oTrAAMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductTrAA(iAMat, n, p, oTrAAMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductATrA(double* iAMat, int n, int p, double* oATrAMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductATrA(iAMat, n, p, oATrAMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductADTrA(
+    double* iAMat, int n, int p, double* iDiagMat, double* oADTrA) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductADTrA(iAMat, n, p, iDiagMat, oADTrA); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductTrADA(
+    double* iAMat, int n, int p, double* iDiagMat, double* oTrADA) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductTrADA(iAMat, n, p, iDiagMat, oTrADA); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductADiag(
+    double* iAMat, int n, int p, double* iDiagMat, double* oADiagMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductADiag(iAMat, n, p, iDiagMat, oADiagMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductTrADiag(
+    double* iAMat, int n, int p, double* iDiagMat, double* oTrADiagMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductTrADiag(iAMat, n, p, iDiagMat, oTrADiagMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductABTrA(
+    double* iAMat, int n, int p, double* iBMat, double* oCMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductABTrA(iAMat, n, p, iBMat, oCMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductTrABA(
+    double* iAMat, int n, int p, double* iBMat, double* oCMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductTrABA(iAMat, n, p, iBMat, oCMat); });
+}
+
+KAV_ENTRY double KAV_CALL VB_M_ProductTrVBV(double* iVect, int n, double* iBMat) noexcept {
+  return guarded<double>([&] { return entries::VB_M_ProductTrVBV(iVect, n, iBMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductTrAinvBA(
+    double* iAMat, int n, int p, double* iBMat, double* oCMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductTrAinvBA(iAMat, n, p, iBMat, oCMat); });
+}
+
+KAV_ENTRY double KAV_CALL VB_M_ProductTrVinvBV(double* iVect, int n, double* iBMat) noexcept {
+  return guarded<double>([&] { return entries::VB_M_ProductTrVinvBV(iVect, n, iBMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductAinvBTrA(
+    double* iAMat, int n, int p, double* iBMat, double* oCMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductAinvBTrA(iAMat, n, p, iBMat, oCMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ScalarsA(double* iAMat, int n, int p, double s, double* osAMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ScalarsA(iAMat, n, p, s, osAMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ScalarsA2(double* iAMat, int n, int p, double s) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ScalarsA2(iAMat, n, p, s); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ScalarsTrA(double* iAMat, int n, int p, double s, double* osTrAMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ScalarsTrA(iAMat, n, p, s, osTrAMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_APlusVal(double* iAMat, int n, int p, double ival, double* oAPlusVal) noexcept {
+  return guarded<void>([&] { return entries::VB_M_APlusVal(iAMat, n, p, ival, oAPlusVal); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Square(double* ioMat, int n, int p) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Square(ioMat, n, p); });
+}
+
+KAV_ENTRY double KAV_CALL VB_M_Trace(double* iAMat, int n) noexcept {
+  return guarded<double>([&] { return entries::VB_M_Trace(iAMat, n); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_EuclidDist2(
+    double* iAMat, int n, int p, double* oDistMat, double* w, VARIANT_BOOL iByRows) noexcept {
+  return guarded<void>([&] { return entries::VB_M_EuclidDist2(iAMat, n, p, oDistMat, w, iByRows); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SumByCols(double* iMat, int n, int p, double* oSums) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SumByCols(iMat, n, p, oSums); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SumByRows(double* iMat, int n, int p, double* oSums) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SumByRows(iMat, n, p, oSums); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_DuplicateDbl(double* iAMat, int n, int p, double* oMat) noexcept {
   return guarded<void>([&] { return entries::VB_M_DuplicateDbl(iAMat, n, p, oMat); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_DuplicateStr(BSTR* iAMat, int n, int p, BSTR* oMat) noexcept {
   return guarded<void>([&] { return entries::VB_M_DuplicateStr(iAMat, n, p, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_StandardizeByVect(
+    double* iMat, int n, int p, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_StandardizeByVect(iMat, n, p, iMissing, w, Unbiased, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_StandardizeByVect2(
+    double* iMat, int n, int p, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased) noexcept {
+  return guarded<void>([&] { return entries::VB_M_StandardizeByVect2(iMat, n, p, iMissing, w, Unbiased); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_RescaleByVect(
+    double* iMat, int n, int p, double iLowerBound, double iUpperBound, VARIANT_BOOL* iMissing, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_RescaleByVect(iMat, n, p, iLowerBound, iUpperBound, iMissing, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_RescaleByVect2(
+    double* iMat, int n, int p, double iLowerBound, double iUpperBound, VARIANT_BOOL* iMissing) noexcept {
+  return guarded<void>([&] { return entries::VB_M_RescaleByVect2(iMat, n, p, iLowerBound, iUpperBound, iMissing); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductHorizAB(
+    double* iMat1, int n, int p1, double* iMat2, int p2, double* oMat, int p) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductHorizAB(iMat1, n, p1, iMat2, p2, oMat, p); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductHorizAB2(
+    double* ioMat1, int n, int* iop1, double* iMat2, int p2) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductHorizAB2(ioMat1, n, iop1, iMat2, p2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Symmetrize(double* t, int n, int iType) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Symmetrize(t, n, iType); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_CheckIfSimOrDissim(double* t, int n, int iApriori) noexcept {
+  return guarded<int>([&] { return entries::VB_M_CheckIfSimOrDissim(t, n, iApriori); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_TransformSimToDissim(double* t, int n) noexcept {
+  return guarded<void>([&] { return entries::VB_M_TransformSimToDissim(t, n); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Center(double* iMat, int n, int p, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Center(iMat, n, p, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_CenterW(double* iMat, int n, int p, double* w, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_CenterW(iMat, n, p, w, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Center2(double* ioMat, int n, int p) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Center2(ioMat, n, p); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_CenterW2(double* ioMat, int n, int p, double* w) noexcept {
+  return guarded<void>([&] { return entries::VB_M_CenterW2(ioMat, n, p, w); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Reduce(
+    double* iMat, int n, int p, double* oMat, VARIANT_BOOL Unbiased) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Reduce(iMat, n, p, oMat, Unbiased); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ReduceW(
+    double* iMat, int n, int p, double* w, double* oMat, VARIANT_BOOL Unbiased) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ReduceW(iMat, n, p, w, oMat, Unbiased); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Reduce2(double* ioMat, int n, int p, VARIANT_BOOL Unbiased) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Reduce2(ioMat, n, p, Unbiased); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ReduceW2(
+    double* ioMat, int n, int p, double* w, VARIANT_BOOL Unbiased) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ReduceW2(ioMat, n, p, w, Unbiased); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Standardize2(double* ioMat, int n, int p, VARIANT_BOOL Unbiased) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Standardize2(ioMat, n, p, Unbiased); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Standardize3(
+    double* ioMat, int n, int p, double* oMean, double* oStdev, VARIANT_BOOL Unbiased) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Standardize3(ioMat, n, p, oMean, oStdev, Unbiased); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_StandardizeW2(
+    double* ioMat, int n, int p, double* w, VARIANT_BOOL Unbiased) noexcept {
+  return guarded<void>([&] { return entries::VB_M_StandardizeW2(ioMat, n, p, w, Unbiased); });
+}
+
+KAV_ENTRY double KAV_CALL VB_M_FrobeniusNorm(double* iMat1, int n, int p, double* iMat2) noexcept {
+  return guarded<double>([&] { return entries::VB_M_FrobeniusNorm(iMat1, n, p, iMat2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductByElement(
+    double* iMat1, int n, int p, double* iMat2, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductByElement(iMat1, n, p, iMat2, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductADiagV(
+    double* iMat, int n, int p, double* iDiagVect, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductADiagV(iMat, n, p, iDiagVect, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SquaredRows(double* iMat, int n, int p, double* oVect) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SquaredRows(iMat, n, p, oVect); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SquaredColumns(double* iMat, int n, int p, double* oVect) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SquaredColumns(iMat, n, p, oVect); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Min(double* iMat, int n, int p, double* oMinVect) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Min(iMat, n, p, oMinVect); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_Max(double* iMat, int n, int p, double* oMaxVect) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Max(iMat, n, p, oMaxVect); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_CorrMatFromCovMat(double* iCovMat, int p, double* oCorrMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_CorrMatFromCovMat(iCovMat, p, oCorrMat); });
+}
+
+KAV_ENTRY double KAV_CALL VB_M_ProductTrV1BV2(double* iVect1, int n, double* iBMat, double* iVect2) noexcept {
+  return guarded<double>([&] { return entries::VB_M_ProductTrV1BV2(iVect1, n, iBMat, iVect2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductDesignAB2(
+    double* ioMat1, int n, int* iop1, double* iMat2, int p2, int iConstraintType, double* w,
+    double* oInterFreqCat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductDesignAB2(ioMat1, n, iop1, iMat2, p2, iConstraintType, w, oInterFreqCat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductDiagVA(
+    double* iDiagVect, int n, double* iMat, int p, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductDiagVA(iDiagVect, n, iMat, p, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductDiagV1ADiagV2(
+    double* iDiagVect1, int n, double* iMat, int p, double* iDiagVect2, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductDiagV1ADiagV2(iDiagVect1, n, iMat, p, iDiagVect2, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_StandardizeW(
+    double* iMat, int n, int p, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL isBiasOne, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_StandardizeW(iMat, n, p, w, Unbiased, isBiasOne, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductTrADiagVA(
+    double* iMat, int n, int p, double* iDiagVect, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductTrADiagVA(iMat, n, p, iDiagVect, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ProductADiagVTrA(
+    double* iMat, int n, int p, double* iDiagVect, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ProductADiagVTrA(iMat, n, p, iDiagVect, oMat); });
 }
 
 KAV_ENTRY int KAV_CALL VB_SortQVectorLng(

@@ -1,0 +1,43 @@
+#include "peers.h"
+
+#if defined(KAV_ARMADILLO)
+
+#define ARMA_DONT_USE_WRAPPER
+#include <armadillo>
+
+#include "ratios.h"
+
+namespace {
+
+arma::mat tableOf(const double* a, int n, int p) {
+  return arma::mat(const_cast<double*>(a), static_cast<arma::uword>(n), static_cast<arma::uword>(p), false,
+                   true);
+}
+
+}  // namespace
+
+void peers::enterArmadilloStatistics(const std::string& work, const double* a, int n, int p) {
+  contest(work, "Armadillo, mean and stddev", [=] {
+    const arma::mat table = tableOf(a, n, p);
+    const arma::rowvec means = arma::mean(table), deviations = arma::stddev(table);
+    benchmark::DoNotOptimize(means(0) + deviations(0));
+  });
+}
+
+void peers::enterArmadilloCovariance(const std::string& work, const double* a, int n, int p) {
+  contest(work, "Armadillo, cov",
+          [=] { benchmark::DoNotOptimize(arma::mat(arma::cov(tableOf(a, n, p)))(0)); });
+}
+
+void peers::enterArmadilloInverse(const std::string& work, const double* a, int n) {
+  contest(work, "Armadillo, LAPACK getrf and getri",
+          [=] { benchmark::DoNotOptimize(arma::mat(arma::inv(tableOf(a, n, n)))(0)); });
+}
+
+#else
+
+void peers::enterArmadilloStatistics(const std::string&, const double*, int, int) {}
+void peers::enterArmadilloCovariance(const std::string&, const double*, int, int) {}
+void peers::enterArmadilloInverse(const std::string&, const double*, int) {}
+
+#endif

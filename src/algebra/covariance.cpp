@@ -1,0 +1,432 @@
+#include "algebra/covariance.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "algebra/dense.h"
+#include "algebra/result_blocks.h"
+#include "algebra/shared_rows.h"
+#include "core/moments.h"
+#include "core/screening.h"
+#include "core/thresholds.h"
+#include "platform/scalar.h"
+#include "stats/usable.h"
+
+using moments::Denominator;
+
+namespace {
+
+/// A pair's co-moment and what its denominator needs.
+struct CoMoment {
+  double total = 0.0;
+  double count = 0.0;
+  double products = 0.0;
+  double meanA = 0.0;
+
+  /// The marker without a row.
+  double over(const Denominator& denominator) const {
+    return count == 0.0 ? kMissing : products / denominator.of(total, count);
+  }
+};
+
+/// A table of which cells are missing.
+class Cells {
+ public:
+  Cells(const matrix* a, int n, int p) : values_(a, n, p), flags_(a, n, p) {}
+
+  const double* column(int j) const { return values_.data() + values_.stride() * j; }
+  usable::Present present(int j) const { return {column(j), flags_.data() + flags_.stride() * j}; }
+  const bool* flags(int j) const {
+    return reinterpret_cast<const bool*>(flags_.data() + flags_.stride() * j);
+  }
+
+ private:
+  block::Values values_;
+  block::Flags flags_;
+};
+
+/// The rows that may take part, in order, with their weights.
+struct Rows {
+  Rows(int n, const short* rowFlags, const matrix* weights) {
+    const block::Values w(weights, weights == nullptr ? 0 : n);
+    usable::forEach(n, usable::NotExcludedIfGiven(rowFlags), [&](int i) {
+      const double own = weights == nullptr ? 1.0 : w[i];
+      if (own == 0.0) return;
+      row.push_back(i);
+      weight.push_back(own);
+    });
+  }
+
+  std::vector<int> row;
+  std::vector<double> weight;
+};
+
+CoMoment coMoment(const Rows& rows, const Cells& tableA, int a, const Cells& tableB, int b) {
+  const double* x = tableA.column(a);
+  const double* y = tableB.column(b);
+  const usable::Present presentA = tableA.present(a), presentB = tableB.present(b);
+  CoMoment m;
+  double meanB = 0.0;
+  for (std::size_t r = 0; r < rows.row.size(); ++r) {
+    const int i = rows.row[r];
+    if (!presentA(i) || !presentB(i)) continue;
+    const double w = rows.weight[r];
+    m.total += w;
+    m.count += 1.0;
+    const moments::Share share(w, m.total);
+    const double dA = x[i] - m.meanA;
+    const double dB = y[i] - meanB;
+    m.products += share.ofSquare * dB * dA;
+    m.meanA += share.ofMean * dA;
+    meanB += share.ofMean * dB;
+  }
+  return m;
+}
+
+/// Covariances of all columns of a table without a missing cell in its rows: their means do not depend on the
+/// partner, so deviations are computed once for each column, and all sums are one product of tables.
+///
+/// @return the sum of the weights
+double completeCoMoments(shared_rows::RowBlocks& rows, const Cells& cells, int p, double* c, double* means) {
+  constexpr std::ptrdiff_t kBlock = shared_rows::kBlock;
+  const std::size_t room = (static_cast<std::size_t>(p) + 7) / 8 * 8 * static_cast<std::size_t>(kBlock);
+  Scratch<double> deviations(room), weighted(room);
+  kernels::Product product = {{deviations.data(), kBlock, 1},
+                              {weighted.data(), 1, kBlock},
+                              nullptr,
+                              0,
+                              p,
+                              p,
+                              kBlock,
+                              c,
+                              p,
+                              true,
+                              false};
+  Scratch<double> scratch(kernels::productScratch(product));
+  shared_rows::Columns columns(p);
+  while (rows.next()) {
+    columns.add(rows, [&](int j) { return cells.column(j); }, {deviations.data(), weighted.data()});
+    product.depth = rows.count();
+    kernels::best().product(product, scratch.data());
+    product.continued = true;
+  }
+  for (int j = 0; j < p; ++j) means[j] = columns.mean(j);
+  return rows.total();
+}
+
+/// Co-moments of all pairs of columns, each over the rows that the two share, several pairs side by side.
+class PairwiseCoMoments {
+ public:
+  PairwiseCoMoments(const Cells& cells, int n, int p, const short* rowFlags, const matrix* weights)
+      : p_(p),
+        stride_((std::ptrdiff_t{p} + kMostLanes - 1) / kMostLanes * kMostLanes),
+        sums_(static_cast<std::size_t>(5 * stride_ * p)),
+        x_(static_cast<std::size_t>(stride_ * shared_rows::kBlock)),
+        present_(x_.size()) {
+    shared_rows::RowBlocks rows(n, rowFlags, weights);
+    while (rows.next()) add(rows, cells);
+  }
+
+  CoMoment operator()(int a, int b) const {
+    const double* sums = sums_.data() + 5 * stride_ * a + b;
+    return {sums[0], sums[stride_], sums[2 * stride_], sums[3 * stride_]};
+  }
+
+ private:
+  /// Columns are padded so that every kernel's lanes fit.
+  static constexpr std::ptrdiff_t kMostLanes = 16;
+
+  void add(const shared_rows::RowBlocks& rows, const Cells& cells) {
+    for (int r = 0; r < rows.count(); ++r) {
+      const int i = rows.rows()[r];
+      for (int j = 0; j < p_; ++j) {
+        const usable::Present present = cells.present(j);
+        const auto at = static_cast<std::size_t>(stride_ * r + j);
+        present_[at] = present(i) ? ~std::uint64_t{0} : 0;
+        x_[at] = present(i) ? cells.column(j)[i] : 0.0;
+      }
+    }
+    const kernels::Table& kernel = kernels::best();
+    int present[shared_rows::kBlock];
+    double weights[shared_rows::kBlock];
+    for (int a = 0; a < p_; ++a) {
+      int count = 0;
+      for (int r = 0; r < rows.count(); ++r) {
+        if (present_[static_cast<std::size_t>(stride_ * r + a)] == 0) continue;
+        present[count] = r;
+        weights[count++] = rows.weights()[r];
+      }
+      double* sums = sums_.data() + 5 * stride_ * a;
+      const kernels::PairRows pairs = {x_.data(), present_.data(), stride_, present, weights, count};
+      for (int b = a / kernel.pairLanes * kernel.pairLanes; b < p_; b += kernel.pairLanes) {
+        kernel.pairMoments(
+            pairs, a, b, {sums, sums + stride_, sums + 2 * stride_, sums + 3 * stride_, sums + 4 * stride_});
+      }
+    }
+  }
+
+  int p_;
+  std::ptrdiff_t stride_;
+  std::vector<double> sums_, x_;
+  std::vector<std::uint64_t> present_;
+};
+
+bool isComplete(const Cells& cells, int n, int p) {
+  for (int j = 0; j < p; ++j) {
+    if (screening::anyMissing(cells.column(j), cells.flags(j), n)) return false;
+  }
+  return true;
+}
+
+/// Means, variances and their divisors, of each column over its own rows; the marker without a row.
+struct ColumnStatistics {
+  explicit ColumnStatistics(int p) : means(sizeOf(p)), variances(sizeOf(p)), divisors(sizeOf(p)) {}
+
+  static std::size_t sizeOf(int p) { return static_cast<std::size_t>(std::max(p, 0)); }
+
+  std::vector<double> means, variances, divisors;
+};
+
+/// Covariances of the upper triangle, the marker for a pair without a row.
+ColumnStatistics covariances(const matrix* a, int n, int p, const short* rowFlags, const matrix* weights,
+                             const Denominator& denominator, double* c) {
+  ColumnStatistics s(p);
+  const Cells cells(a, n, p);
+  if (isComplete(cells, n, p)) {
+    shared_rows::RowBlocks rows(n, rowFlags, weights);
+    const double total = completeCoMoments(rows, cells, p, c, s.means.data());
+    if (rows.used > 0) {
+      std::fill(s.divisors.begin(), s.divisors.end(), denominator.of(total, rows.used));
+      for (int b = 0; b < p; ++b) {
+        for (int i = 0; i <= b; ++i) c[i + std::ptrdiff_t{p} * b] /= s.divisors[0];
+        s.variances[static_cast<std::size_t>(b)] = c[b + std::ptrdiff_t{p} * b];
+      }
+      return s;
+    }
+  }
+  const PairwiseCoMoments coMoments(cells, n, p, rowFlags, weights);
+  for (int i = 0; i < p; ++i) {
+    const auto k = static_cast<std::size_t>(i);
+    for (int b = i; b < p; ++b) {
+      const CoMoment m = coMoments(i, b);
+      c[i + std::ptrdiff_t{p} * b] = m.over(denominator);
+      if (i != b) continue;
+      s.means[k] = m.count == 0.0 ? kMissing : m.meanA;
+      s.variances[k] = m.over(denominator);
+      s.divisors[k] = denominator.of(m.total, m.count);
+    }
+  }
+  return s;
+}
+
+/// The rule of correlations; the marker goes through.
+double correlationOf(double covariance, double varianceA, double varianceB, bool diagonal) {
+  if (isMarker(covariance)) return kMissing;
+  const double product = varianceA * varianceB;
+  if (std::fabs(product) - kZero <= 0.0) return 0.0;
+  return diagonal ? 1.0 : covariance / scalar::sqr(product);
+}
+
+/// Upper triangle of covariances to correlations.
+void toCorrelations(double* c, int p) {
+  std::vector<double> variances;
+  for (int j = 0; j < p; ++j) variances.push_back(c[j + std::ptrdiff_t{p} * j]);
+  for (int b = 0; b < p; ++b) {
+    for (int a = 0; a <= b; ++a) {
+      double& cell = c[a + std::ptrdiff_t{p} * b];
+      const auto i = static_cast<std::size_t>(a), j = static_cast<std::size_t>(b);
+      cell = correlationOf(cell, variances[i], variances[j], a == b);
+    }
+  }
+}
+
+/// Puts a p x q table into a prepared result; cells with the marker come out flagged, holding it.
+void storeFlagging(const double* c, int p, int q, matrix* target) {
+  result::fillInto(target, p, q, [&](int a, int b) { return c[a + std::ptrdiff_t{p} * b]; });
+  for (int b = 0; b < q; ++b) {
+    for (int a = 0; a < p; ++a) {
+      if (isMarker(c[a + std::ptrdiff_t{p} * b])) target->setMissing(a, b, true);
+    }
+  }
+}
+
+/// Covariances or correlations into a prepared result.
+ColumnStatistics covCorr(const matrix* a, int n, int p, matrix*& target, short correlation,
+                         const short* rowFlags, const matrix* weights, const Denominator& denominator) {
+  matrix::matCheck(target, p, p, 0.0);
+  std::vector<double> c(addressing::elementsInMemory<double>(p, p));
+  ColumnStatistics s = covariances(a, n, p, rowFlags, weights, denominator, c.data());
+  if (correlation != 0) toCorrelations(c.data(), p);
+  for (int b = 0; b < p; ++b) {
+    for (int i = 0; i < b; ++i) {
+      c[static_cast<std::size_t>(b + std::ptrdiff_t{p} * i)] =
+          c[static_cast<std::size_t>(i + std::ptrdiff_t{p} * b)];
+    }
+  }
+  storeFlagging(c.data(), p, p, target);
+  return s;
+}
+
+void put(matrix* vector, int j, double x) {
+  if (isMarker(x)) {
+    vector->setMissing(j, true);
+  } else {
+    vector->setElement(j, x);
+  }
+}
+
+}  // namespace
+
+int M_CovCorr(const matrix* a, int n, int p, matrix*& result, short correlation, const short* rowFlags,
+              const matrix* weights, short unbiased, short frequencyWeights) {
+  covCorr(a, n, p, result, correlation, rowFlags, weights, Denominator(unbiased, frequencyWeights));
+  return 0;
+}
+
+int M_CovCorrAndMeanStDevVar(matrix*& a, int n, int p, matrix*& result, matrix*& means, matrix*& stdevs,
+                             matrix*& variances, short correlation, const short* rowFlags,
+                             const matrix* weights, short unbiased, short frequencyWeights, short centre,
+                             short standardize) {
+  const ColumnStatistics s =
+      covCorr(a, n, p, result, correlation, rowFlags, weights, Denominator(unbiased, frequencyWeights));
+  for (matrix** vector : {&means, &stdevs, &variances}) matrix::matCheck(*vector, p, 1, 0.0);
+  for (int j = 0; j < p; ++j) {
+    const auto k = static_cast<std::size_t>(j);
+    const double variance = s.variances[k];
+    const bool known = !isMarker(variance) && !(s.divisors[k] <= 0.0);
+    put(means, j, s.means[k]);
+    put(stdevs, j, known ? scalar::sqr(variance) : kMissing);
+    put(variances, j, known ? variance : kMissing);
+  }
+  if (centre == kTrue || standardize == kTrue) {
+    const block::Values cells(a, n, p), centres(means, p), scales(stdevs, p);
+    result::fillInto(a, n, p, [&](int i, int j) {
+      const double x = cells[i + cells.stride() * j] - centres[j];
+      if (standardize != kTrue) return x;
+      return scales[j] > 0.0 ? x / scales[j] : 0.0;
+    });
+  }
+  return 0;
+}
+
+void M_CorrMatMat(const matrix* a, int n, int p1, const matrix* b, int p2, matrix*& result,
+                  const short* rowFlags, const matrix* weights, short correlation, short determination,
+                  short unbiased, short frequencyWeights) {
+  matrix::matCheck(result, p1, p2, 0.0);
+  if (!result::hasCells(p1, p2)) return;
+  const Denominator denominator(unbiased, frequencyWeights);
+  const Rows rows(n, rowFlags, weights);
+  const Cells left(a, n, p1), right(b, n, p2);
+  const auto varianceOf = [&](const Cells& cells, int j) {
+    return coMoment(rows, cells, j, cells, j).over(denominator);
+  };
+  std::vector<double> c(addressing::elementsInMemory<double>(p1, p2));
+  for (int j = 0; j < p2; ++j) {
+    for (int i = 0; i < p1; ++i) {
+      double& cell = c[static_cast<std::size_t>(i + std::ptrdiff_t{p1} * j)];
+      cell = coMoment(rows, left, i, right, j).over(denominator);
+      if (correlation == 0 && determination == 0) continue;
+      cell = correlationOf(cell, varianceOf(left, i), varianceOf(right, j), false);
+      if (determination != 0 && !isMarker(cell)) cell *= cell;
+    }
+  }
+  storeFlagging(c.data(), p1, p2, result);
+}
+
+void M_CorrMatFromCovMat(const matrix* covariances, int p, matrix*& result) {
+  const block::Values cells(covariances, p, p);
+  matrix::matCheck(result, p, p, 0.0);
+  const auto at = [&](int i, int j) { return cells[i + cells.stride() * j]; };
+  result::fillInto(result, p, p,
+                   [&](int i, int j) { return correlationOf(at(i, j), at(i, i), at(j, j), i == j); });
+}
+
+void M_Inertie_W(const matrix* a, int n, int p, const matrix* weights, const matrix* classes,
+                 double whichClass, matrix*& result) {
+  const Rows rows(n, nullptr, weights);
+  const block::Values cells(a, n, p), classOf(classes, classes == nullptr ? 0 : n);
+  matrix::matCheck(result, p, p, 0.0);
+  if (!result::hasCells(n, p)) return;
+  std::vector<double> used, factors;
+  matrix kept(n, p);
+  int count = 0;
+  for (std::size_t r = 0; r < rows.row.size(); ++r) {
+    const int i = rows.row[r];
+    if (classes != nullptr && whichClass != -1.0 && classOf[i] != whichClass) continue;
+    for (int j = 0; j < p; ++j) kept.values[count + std::ptrdiff_t{n} * j] = cells[i + cells.stride() * j];
+    factors.push_back(rows.weight[r]);
+    ++count;
+  }
+  if (count == 0) return;
+  result::into(result, p, p, [&](block::Target& target) {
+    dense::multiplySymmetric({kept.values, n, 1}, p, count, target, {factors.data(), 1});
+  });
+}
+
+void M_EuclidDist2(const matrix* a, int n, int p, matrix*& distances, const matrix* weights, short byRows) {
+  const int size = byRows != 0 ? n : p;
+  const int depth = byRows != 0 ? p : n;
+  const block::Values cells(a, n, p), w(weights, weights == nullptr ? 0 : depth);
+  const std::ptrdiff_t along = byRows != 0 ? 1 : cells.stride(), across = byRows != 0 ? cells.stride() : 1;
+  matrix::matCheck(distances, size, size, 0.0);
+  if (!result::hasCells(size, depth)) return;
+  result::into(distances, size, size, [&](block::Target& target) {
+    for (int j = 0; j < size; ++j) {
+      for (int i = 0; i <= j; ++i) {
+        double sum = 0.0;
+        for (int k = 0; k < depth; ++k) {
+          const double d = cells[along * i + across * k] - cells[along * j + across * k];
+          sum += (weights == nullptr ? 1.0 : w[k]) * (d * d);
+        }
+        target[i + target.stride() * j] = target[j + target.stride() * i] = sum;
+      }
+    }
+  });
+}
+
+void M_TransformSimToDissim(matrix*& s, int p) {
+  if (s == nullptr) return;
+  const block::Values cells(s, p, p);
+  std::vector<double> d(addressing::elementsInMemory<double>(p, p));
+  for (int j = 0; j < p; ++j) {
+    for (int i = 0; i < j; ++i) {
+      d[static_cast<std::size_t>(i + std::ptrdiff_t{p} * j)] =
+          d[static_cast<std::size_t>(j + std::ptrdiff_t{p} * i)] =
+              cells[(cells.stride() + 1) * i] - cells[i + cells.stride() * j];
+    }
+  }
+  result::fillInto(s, p, p,
+                   [&](int i, int j) { return d[static_cast<std::size_t>(i + std::ptrdiff_t{p} * j)]; });
+}
+
+int M_CheckIfSimOrDissim(const matrix* t, int n, int apriori) {
+  const block::Values cells(t, n, n);
+  const auto at = [&](int i, int j) { return cells[i + cells.stride() * j]; };
+  bool dissimilarities = true;
+  bool similarities = true;
+  for (int j = 0; j < n; ++j) {
+    for (int i = 0; i < n; ++i) {
+      dissimilarities = dissimilarities && (i == j ? at(i, j) == 0.0 : at(i, j) >= 0.0);
+      similarities = similarities && at(i, j) <= at(i, i) && at(i, j) <= at(j, j);
+    }
+  }
+  if (dissimilarities && similarities) return apriori;
+  if (dissimilarities) return 0;
+  return similarities ? 1 : -1;
+}
+
+void M_Symmetrize(matrix* t, int n, int type) {
+  if (t == nullptr || type < 0 || type > 2 || n < 1) return;
+  result::into(t, n, n, [&](block::Target& cells) {
+    for (int j = 0; j < n; ++j) {
+      for (int i = 0; i < j; ++i) {
+        double& upper = cells[i + cells.stride() * j];
+        double& lower = cells[j + cells.stride() * i];
+        if (type == 0) upper = lower = (upper + lower) / 2.0;
+        if (type == 1) lower = upper;
+        if (type == 2) upper = lower;
+      }
+    }
+  });
+}

@@ -1,0 +1,306 @@
+#include "algebra/products.h"
+
+#include <memory>
+
+#include "algebra/dense.h"
+#include "algebra/result_blocks.h"
+#include "core/thresholds.h"
+#include "stats/vector_sums.h"
+
+using dense::Scale;
+using dense::View;
+using dense::viewOf;
+using result::into;
+using result::prepared;
+
+namespace {
+
+/// Inverse of the leading n x n block; zeros where it is singular.
+std::unique_ptr<matrix> inverseOf(const matrix* b, int n, double tolerance) {
+  const block::Values cells(b, n, n);
+  matrix square(n, n);
+  result::fillInto(&square, n, n, [&](int i, int j) { return cells[i + cells.stride() * j]; });
+  auto inverse = std::make_unique<matrix>(n, n, 0.0);
+  short singular = kFalse;
+  square.inverse1(inverse.get(), singular, tolerance);
+  return inverse;
+}
+
+/// c = a . diag(v) . a' into a caller's container.
+void symmetricInto(const View& a, int size, int depth, const block::Values& v, matrix* c) {
+  into(c, size, size, [&](block::Target& target) {
+    dense::multiplySymmetric(a, size, depth, target, dense::vectorScale(v));
+  });
+}
+
+/// (a.b).a' for a of size x depth.
+void sandwich(const View& a, const View& b, int size, int depth, matrix*& c) {
+  prepared(c, size, size, depth, [&](block::Target& target) {
+    matrix half(size, depth);
+    dense::multiply(a, b, size, depth, depth, half.values, size);
+    dense::multiply({half.values, 1, size}, a.transposed(), size, size, depth, target);
+  });
+}
+
+double quadraticForm(const matrix* x, const matrix* b, const matrix* y, int n) {
+  if (n < 1) return 0.0;
+  matrix product(n, 1, 0.0);
+  M_ProductBV(b, n, n, y, &product);
+  return V_ProductTrV1V2(x, n, &product);
+}
+
+/// All products of a column of a with one of b, row by row, the columns of b varying fastest.
+template <class Of>
+void crossColumns(const matrix* a, int n, int p, const matrix* b, int q, matrix* c, Of of) {
+  if (!result::hasCells(n, p, q)) return;
+  const block::Values left(a, n, p), right(b, n, q);
+  into(c, n, result::productColumns(p, q), [&](block::Target& target) {
+    double* column = target.data();
+    for (int k = 0; k < p; ++k) {
+      const double* x = left.data() + left.stride() * k;
+      for (int l = 0; l < q; ++l, column += target.stride()) {
+        const double* y = right.data() + right.stride() * l;
+        for (int i = 0; i < n; ++i) column[i] = of(x[i], y[i]);
+      }
+    }
+  });
+}
+
+/// The same in place of a.
+template <class Of>
+void crossColumnsInPlace(matrix*& a, int n, int* p, const matrix* b, int q, Of of) {
+  if (p == nullptr || !result::hasCells(n, *p, q)) return;
+  matrix product(n, result::productColumns(*p, q), 0.0);
+  crossColumns(a, n, *p, b, q, &product, of);
+  result::replace(a, product);
+  *p = product.pX;
+}
+
+/// Divides the entries of a column beyond the machine epsilon by the weights of their rows, either sign by
+/// its own.
+///
+/// @return the positive weight sum
+double divideByWeights(double* column, const double* weights, int n) {
+  double positive = 0.0;
+  double negative = 0.0;
+  for (int i = 0; i < n; ++i) {
+    if (column[i] > kEpsilon) positive += weights[i];
+    if (column[i] < -kEpsilon) negative += weights[i];
+  }
+  for (int i = 0; i < n; ++i) {
+    if (column[i] > kEpsilon) {
+      if (positive != 0.0) column[i] /= positive;
+    } else if (column[i] < -kEpsilon && negative != 0.0) {
+      column[i] /= negative;
+    }
+  }
+  return positive;
+}
+
+}  // namespace
+
+int M_ProductAB(const matrix* a, int n, int p, const matrix* b, int q, matrix*& c) {
+  prepared(c, n, q, p, [&](block::Target& target) {
+    const block::Values left(a, n, p), right(b, p, q);
+    dense::multiply(viewOf(left), viewOf(right), n, q, p, target);
+  });
+  return 0;
+}
+
+int M_ProductABMissing(const matrix* a, int n, int p, const matrix* b, int q, matrix*& c) {
+  M_ProductAB(a, n, p, b, q, c);
+  if (!result::hasCells(n, p, q)) return 0;
+  const block::Values left(a, n, p), right(b, p, q);
+  const block::Flags leftFlags(a, n, p), rightFlags(b, p, q);
+  const auto missingRow = [&](int i) {
+    for (int k = 0; k < p; ++k) {
+      if (leftFlags[i + leftFlags.stride() * k] || isMarker(left[i + left.stride() * k])) return true;
+    }
+    return false;
+  };
+  const auto missingColumn = [&](int j) {
+    for (int k = 0; k < p; ++k) {
+      if (rightFlags[k + rightFlags.stride() * j] || isMarker(right[k + right.stride() * j])) return true;
+    }
+    return false;
+  };
+  // Every cell of a row or column with a missing factor has a missing term.
+  const auto flag = [&](int i, int j) {
+    if (!c->missing[addressing::linearIndex(i, j, n)]) c->setElement(i, j, 0.0);
+    c->setMissing(i, j, true);
+  };
+  for (int i = 0; i < n; ++i) {
+    if (!missingRow(i)) continue;
+    for (int j = 0; j < q; ++j) flag(i, j);
+  }
+  for (int j = 0; j < q; ++j) {
+    if (!missingColumn(j)) continue;
+    for (int i = 0; i < n; ++i) flag(i, j);
+  }
+  return 0;
+}
+
+void M_ProductATrB(const matrix* a, int n, int p, const matrix* b, int m, matrix*& c) {
+  prepared(c, n, m, p, [&](block::Target& target) {
+    const block::Values left(a, n, p), right(b, m, p);
+    dense::multiply(viewOf(left), viewOf(right).transposed(), n, m, p, target);
+  });
+}
+
+void M_ProductTrAB(const matrix* a, int n, int p, const matrix* b, int q, matrix*& c) {
+  prepared(c, p, q, n, [&](block::Target& target) {
+    const block::Values left(a, n, p), right(b, n, q);
+    dense::multiply(viewOf(left).transposed(), viewOf(right), p, q, n, target);
+  });
+}
+
+void M_ProductATrA(const matrix* a, int n, int p, matrix*& c) {
+  prepared(c, n, n, p, [&](block::Target& target) {
+    dense::multiplySymmetric(viewOf(block::Values(a, n, p)), n, p, target);
+  });
+}
+
+void M_ProductTrAA(const matrix* a, int n, int p, matrix*& c) {
+  prepared(c, p, p, n, [&](block::Target& target) {
+    dense::multiplySymmetric(viewOf(block::Values(a, n, p)).transposed(), p, n, target);
+  });
+}
+
+void M_ProductADTrA(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
+  prepared(c, n, n, p, [&](block::Target& target) {
+    const block::Values cells(a, n, p), diagonal(d, p, p);
+    dense::multiplySymmetric(viewOf(cells), n, p, target, dense::diagonalScale(diagonal));
+  });
+}
+
+void M_ProductTrADA(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
+  prepared(c, p, p, n, [&](block::Target& target) {
+    const block::Values cells(a, n, p), diagonal(d, n, n);
+    dense::multiplySymmetric(viewOf(cells).transposed(), p, n, target, dense::diagonalScale(diagonal));
+  });
+}
+
+void M_ProductADiagVTrA(const matrix* a, int n, int p, const matrix* v, matrix* c) {
+  if (!result::hasCells(n, p)) return;
+  const block::Values cells(a, n, p);
+  symmetricInto(viewOf(cells), n, p, block::Values(v, p), c);
+}
+
+void M_ProductTrADiagVA(const matrix* a, int n, int p, const matrix* v, matrix* c) {
+  if (!result::hasCells(n, p)) return;
+  const block::Values cells(a, n, p);
+  symmetricInto(viewOf(cells).transposed(), p, n, block::Values(v, n), c);
+}
+
+void M_ProductADiag(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
+  prepared(c, n, p, 1, [&](block::Target& target) {
+    const block::Values cells(a, n, p), diagonal(d, p, p);
+    result::fill(target, n, p, [&](int i, int j) {
+      return cells[i + cells.stride() * j] * diagonal[(diagonal.stride() + 1) * j];
+    });
+  });
+}
+
+void M_ProductTrADiag(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
+  prepared(c, p, n, 1, [&](block::Target& target) {
+    const block::Values cells(a, n, p), diagonal(d, n, n);
+    result::fill(target, p, n, [&](int i, int j) {
+      return cells[j + cells.stride() * i] * diagonal[(diagonal.stride() + 1) * j];
+    });
+  });
+}
+
+void M_ProductADiagV(const matrix* a, int n, int p, const matrix* v, matrix* c) {
+  const block::Values cells(a, n, p), factors(v, p);
+  result::fillInto(c, n, p, [&](int i, int j) { return cells[i + cells.stride() * j] * factors[j]; });
+}
+
+void M_ProductDiagVA(const matrix* v, int n, const matrix* a, int p, matrix* c) {
+  const block::Values cells(a, n, p), factors(v, n);
+  result::fillInto(c, n, p, [&](int i, int j) { return factors[i] * cells[i + cells.stride() * j]; });
+}
+
+void M_ProductDiagV1ADiagV2(const matrix* x, int n, const matrix* a, int p, const matrix* y, matrix* c) {
+  const block::Values cells(a, n, p), left(x, n), right(y, p);
+  result::fillInto(c, n, p, [&](int i, int j) { return left[i] * cells[i + cells.stride() * j] * right[j]; });
+}
+
+void M_ProductABTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
+  const block::Values cells(a, n, p), middle(b, p, p);
+  sandwich(viewOf(cells), viewOf(middle), n, p, c);
+}
+
+void M_ProductTrABA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
+  const block::Values cells(a, n, p), middle(b, n, n);
+  sandwich(viewOf(cells).transposed(), viewOf(middle), p, n, c);
+}
+
+void M_ProductAinvBTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
+  M_ProductABTrA(a, n, p, inverseOf(b, p, kZero).get(), c);
+}
+
+void M_ProductTrAinvBA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
+  M_ProductTrABA(a, n, p, inverseOf(b, n, kEpsilon).get(), c);
+}
+
+int M_ProductBV(const matrix* b, int n, int p, const matrix* v, matrix* w) {
+  if (!result::hasCells(n, p)) return 0;
+  const block::Values table(b, n, p), vector(v, p);
+  into(w, n, 1,
+       [&](block::Target& target) { dense::multiply(viewOf(table), viewOf(vector), n, 1, p, target); });
+  return 0;
+}
+
+void M_ProductVB(const matrix* v, int n, const matrix* b, int q, matrix*& w) {
+  prepared(w, q, 1, n, [&](block::Target& target) {
+    const block::Values table(b, n, q), vector(v, n);
+    dense::multiply(viewOf(table).transposed(), viewOf(vector), q, 1, n, target);
+  });
+}
+
+double M_ProductTrVBV(const matrix* v, int n, const matrix* b) { return quadraticForm(v, b, v, n); }
+
+double M_ProductTrV1BV2(const matrix* x, int n, const matrix* b, const matrix* y) {
+  return quadraticForm(x, b, y, n);
+}
+
+double M_ProductTrVinvBV(const matrix* v, int n, const matrix* b) {
+  return quadraticForm(v, inverseOf(b, n, kEpsilon).get(), v, n);
+}
+
+double M_FrobeniusNorm(const matrix* a, int n, int p, const matrix* b) {
+  const block::Values left(a, n, p), right(b, n, p);
+  double trace = 0.0;
+  for (int j = 0; j < p && n >= 1; ++j) {
+    const double* x = left.data() + left.stride() * j;
+    const double* y = right.data() + right.stride() * j;
+    double sum = 0.0;
+    for (int i = 0; i < n; ++i) sum += x[i] * y[i];
+    trace += sum;
+  }
+  return trace;
+}
+
+void M_ProductHorizAB(const matrix* a, int n, int p, const matrix* b, int q, matrix* c) {
+  crossColumns(a, n, p, b, q, c, [](double x, double y) { return x * y; });
+}
+
+void M_ProductHorizAB2(matrix*& a, int n, int* p, const matrix* b, int q) {
+  crossColumnsInPlace(a, n, p, b, q, [](double x, double y) { return x * y; });
+}
+
+void M_ProductDesignAB2(matrix*& a, int n, int* p, const matrix* b, int q, int mode, const matrix* weights,
+                        matrix*& frequencies) {
+  crossColumnsInPlace(a, n, p, b, q, [](double x, double y) { return x == 0.0 || y == 0.0 ? 0.0 : x * y; });
+  const int columns = p == nullptr ? 0 : *p;
+  matrix::matCheck(frequencies, columns, 1, 0.0);
+  if (mode != 3 || weights == nullptr || !result::hasCells(n, columns, q)) return;
+  const block::Values rowWeights(weights, n);
+  block::Target sums(frequencies, columns);
+  into(a, n, columns, [&](block::Target& table) {
+    for (int j = 0; j < columns; ++j) {
+      sums[j] = divideByWeights(table.data() + table.stride() * j, rowWeights.data(), n);
+    }
+  });
+  sums.store();
+}

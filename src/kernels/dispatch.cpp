@@ -1,0 +1,73 @@
+// Which kernels run: chosen once, when the library is loaded, by what processor and system support.
+
+#include "kernels/kernels.h"
+#include "kernels/tiles.h"
+
+namespace kernels {
+
+namespace sse2 {
+extern const int pairLanes, sides;
+void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
+void product(const Product& p, double* scratch);
+void backSubstitute(const double* u, std::ptrdiff_t n, double* x);
+}  // namespace sse2
+namespace avx2 {
+extern const int pairLanes, sides;
+void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
+void product(const Product& p, double* scratch);
+void backSubstitute(const double* u, std::ptrdiff_t n, double* x);
+}  // namespace avx2
+namespace avx512 {
+extern const int pairLanes, sides;
+void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
+void product(const Product& p, double* scratch);
+void backSubstitute(const double* u, std::ptrdiff_t n, double* x);
+}  // namespace avx512
+
+namespace {
+
+const Table kSse2 = {"SSE2",      sse2::product,       sse2::pairLanes, sse2::pairMoments,
+                     sse2::sides, sse2::backSubstitute};
+const Table kAvx2 = {"AVX2",      avx2::product,       avx2::pairLanes, avx2::pairMoments,
+                     avx2::sides, avx2::backSubstitute};
+const Table kAvx512 = {"AVX-512",           avx512::product, avx512::pairLanes,
+                       avx512::pairMoments, avx512::sides,   avx512::backSubstitute};
+
+struct Supported {
+  Supported() {
+    __builtin_cpu_init();
+    if (__builtin_cpu_supports("avx2")) tables[count++] = &kAvx2;
+    if (__builtin_cpu_supports("avx512f")) tables[count++] = &kAvx512;
+  }
+
+  const Table* tables[3] = {&kSse2};
+  int count = 1;
+};
+
+const Supported kSupported;
+
+std::ptrdiff_t roundedUp(std::ptrdiff_t x, std::ptrdiff_t step) { return (x + step - 1) / step * step; }
+
+}  // namespace
+
+std::size_t productScratch(const Product& p) {
+  if (isSmall(p)) return 0;
+  const std::ptrdiff_t depth = p.depth < kBlockDepth ? p.depth : kBlockDepth;
+  // Each cell of b twice, as the plainest kernel wants it.
+  const std::ptrdiff_t columns =
+      roundedUp(p.columns < kBlockColumns ? p.columns : kBlockColumns, 4 * kMostTileColumns);
+  return static_cast<std::size_t>(depth * (kBlockRows + 2 * columns));
+}
+
+const Table* const* supported(int* count) {
+  *count = kSupported.count;
+  return kSupported.tables;
+}
+
+// Where vectors of 512 bits run as two halves they lose to those of 256 bits by a quarter.
+const Table& best() {
+  const int last = kSupported.count - 1;
+  return *kSupported.tables[last == 2 && !__builtin_cpu_is("intel") ? 1 : last];
+}
+
+}  // namespace kernels

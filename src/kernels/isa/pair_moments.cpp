@@ -1,0 +1,80 @@
+// Co-moments of one column with several others, each pair over the rows where both are present. Compiled once
+// for each instruction set, as product.cpp is.
+
+#include "kernels/kernels.h"
+
+namespace kernels::KAV_ISA {
+
+namespace {
+
+using Index = std::ptrdiff_t;
+
+typedef double Vector __attribute__((vector_size(KAV_VECTOR_BYTES), aligned(8), may_alias));
+typedef long long Bits __attribute__((vector_size(KAV_VECTOR_BYTES), aligned(8), may_alias));
+
+constexpr Index kLanes = KAV_VECTOR_BYTES / static_cast<Index>(sizeof(double));
+
+/// Two vectors hide each other's divisions; eight registers have room for one.
+constexpr Index kVectors = sizeof(void*) == 8 ? 2 : 1;
+
+inline Vector load(const double* from) { return *reinterpret_cast<const Vector*>(from); }
+
+inline void store(double* to, Vector x) { *reinterpret_cast<Vector*>(to) = x; }
+
+inline Vector where(Bits mask, Vector x) {
+  return reinterpret_cast<Vector>(mask & reinterpret_cast<Bits>(x));
+}
+
+inline Vector spread(double x) {
+  Vector all;
+  for (Index lane = 0; lane < kLanes; ++lane) all[lane] = x;
+  return all;
+}
+
+}  // namespace
+
+extern const int pairLanes;
+const int pairLanes = static_cast<int>(kVectors * kLanes);
+
+void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums) {
+  Vector total[kVectors], count[kVectors], products[kVectors], meanA[kVectors], meanB[kVectors];
+  for (Index v = 0; v < kVectors; ++v) {
+    const Index at = b + v * kLanes;
+    total[v] = load(sums.total + at);
+    count[v] = load(sums.count + at);
+    products[v] = load(sums.products + at);
+    meanA[v] = load(sums.meanA + at);
+    meanB[v] = load(sums.meanB + at);
+  }
+  const Vector one = spread(1.0);
+  for (Index r = 0; r < rows.count; ++r) {
+    const Index row = rows.stride * rows.rows[r];
+    const double weight = rows.weights[r];
+    const Vector w = spread(weight), x = spread(rows.x[row + a]);
+    const bool squareIsItself = weight * weight == weight;
+    for (Index v = 0; v < kVectors; ++v) {
+      const Index at = row + b + v * kLanes;
+      const Bits present = *reinterpret_cast<const Bits*>(rows.present + at);
+      total[v] += where(present, w);
+      count[v] += where(present, one);
+      const Vector ofMean = w / total[v];
+      const Vector quotient = squareIsItself ? ofMean : (w * w) / total[v];
+      // In the first row of a pair exactly 0.0.
+      const Vector ofSquare = where(~reinterpret_cast<Bits>(total[v] == w), w - quotient);
+      const Vector dA = x - meanA[v], dB = load(rows.x + at) - meanB[v];
+      products[v] += where(present, ofSquare * dB * dA);
+      meanA[v] += where(present, ofMean * dA);
+      meanB[v] += where(present, ofMean * dB);
+    }
+  }
+  for (Index v = 0; v < kVectors; ++v) {
+    const Index at = b + v * kLanes;
+    store(sums.total + at, total[v]);
+    store(sums.count + at, count[v]);
+    store(sums.products + at, products[v]);
+    store(sums.meanA + at, meanA[v]);
+    store(sums.meanB + at, meanB[v]);
+  }
+}
+
+}  // namespace kernels::KAV_ISA

@@ -1,0 +1,84 @@
+// Dense arithmetic with a fixed order of operations, compiled for several instruction sets. Internal.
+//
+// A result's bits do not depend on the instruction set: vectors run across results, never along one sum, and
+// multiplications and additions are not fused.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace kernels {
+
+/// A table as a kernel reads it: cell (i, k) is at cells[i * row + k * column].
+struct View {
+  const double* cells;
+  std::ptrdiff_t row;
+  std::ptrdiff_t column;
+
+  View transposed() const { return {cells, column, row}; }
+};
+
+/// A product of tables.
+///
+///     c(i, j) = sum over k of (a(i, k) * scale[k]) * b(k, j),   k = 0 .. depth-1 ascending, from 0.0
+struct Product {
+  View a;               ///< rows x depth
+  View b;               ///< depth x columns
+  const double* scale;  ///< depth factors, or null: then it is a(i, k) * b(k, j)
+  std::ptrdiff_t scaleStride;
+  std::ptrdiff_t rows, columns, depth;
+  double* c;              ///< column after column
+  std::ptrdiff_t stride;  ///< from column to column of c
+  bool upperOnly;         ///< cells with j < i need not be computed
+  bool continued;         ///< sums go on from what c holds
+};
+
+/// Doubles of scratch memory that a product needs.
+std::size_t productScratch(const Product& product);
+
+/// Rows of a table in which a column is present, for its co-moments with the others.
+struct PairRows {
+  const double* x;               ///< row r at x + stride r; 0.0 where a cell is missing
+  const std::uint64_t* present;  ///< the same shape: all bits set where a cell is there, else 0
+  std::ptrdiff_t stride;
+  const int* rows;
+  const double* weights;  ///< one for each of rows, not 0.0
+  std::ptrdiff_t count;
+};
+
+/// Running sums of one column with the others, one cell for each of those: sum of weights, number of rows,
+/// co-moment and both means over the rows that the two share.
+struct PairSums {
+  double *total, *count, *products, *meanA, *meanB;
+};
+
+/// The kernels for one instruction set.
+struct Table {
+  const char* name;
+  void (*product)(const Product& product, double* scratch);
+
+  /// Columns that pairMoments goes on with side by side.
+  int pairLanes;
+
+  /// Goes on with the sums of column a with columns b .. b + pairLanes - 1, by the weighted update of
+  /// core/moments.h: products += (w - w^2 / W) (x_b - m_b) (x_a - m_a), and so on, in the order of the rows.
+  void (*pairMoments)(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
+
+  /// Right-hand sides that backSubstitute solves for side by side.
+  int sides;
+
+  /// Solves U x = y in place, x holding y row by row, `sides` cells a row: for i = n-1 down to 0
+  ///
+  ///     x(i) = (y(i) - u(i, i+1) x(i+1) - u(i, i+2) x(i+2) - ...) / u(i, i)
+  ///
+  /// @param u  n x n, row after row; cells left of the diagonal are not looked at
+  void (*backSubstitute)(const double* u, std::ptrdiff_t n, double* x);
+};
+
+/// Those that this processor and system can run, the plainest first, and how many they are.
+const Table* const* supported(int* count);
+
+/// The best of them, chosen when the library is loaded.
+const Table& best();
+
+}  // namespace kernels
