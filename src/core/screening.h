@@ -38,6 +38,7 @@ inline bool countsAsMissing(double x, char flag) { return x <= kMissing || flag 
 
 /// Whether any cell is flagged or holds the marker.
 inline bool anyMissing(const double* x, const bool* flags, std::ptrdiff_t n) {
+  if (n < 1) return false;
   if (std::memchr(flags, 1, static_cast<std::size_t>(n)) != nullptr) return true;
   const __m128d marker = _mm_set1_pd(kMissing);
   __m128d any = _mm_setzero_pd();

@@ -46,16 +46,13 @@ struct Supported {
 
 const Supported kSupported;
 
-std::ptrdiff_t roundedUp(std::ptrdiff_t x, std::ptrdiff_t step) { return (x + step - 1) / step * step; }
-
 }  // namespace
 
 std::size_t productScratch(const Product& p) {
   if (isSmall(p)) return 0;
   const std::ptrdiff_t depth = p.depth < kBlockDepth ? p.depth : kBlockDepth;
-  // Each cell of b twice, as the plainest kernel wants it.
-  const std::ptrdiff_t columns =
-      roundedUp(p.columns < kBlockColumns ? p.columns : kBlockColumns, 4 * kMostTileColumns);
+  // Each cell of b twice, as the plainest kernel wants it, and its columns filled up to whole tiles.
+  const std::ptrdiff_t columns = (p.columns < kBlockColumns ? p.columns : kBlockColumns) + kMostTileColumns;
   return static_cast<std::size_t>(depth * (kBlockRows + 2 * columns));
 }
 
