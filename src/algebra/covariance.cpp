@@ -222,7 +222,7 @@ ColumnStatistics covariances(const matrix* a, int n, int p, const short* rowFlag
 
 /// The rule of correlations; the marker goes through.
 double correlationOf(double covariance, double varianceA, double varianceB, bool diagonal) {
-  if (isMarker(covariance)) return kMissing;
+  if (isMarker(covariance) || isMarker(varianceA) || isMarker(varianceB)) return kMissing;
   const double product = varianceA * varianceB;
   if (std::fabs(product) - kZero <= 0.0) return 0.0;
   return diagonal ? 1.0 : covariance / scalar::sqr(product);
@@ -255,6 +255,7 @@ void storeFlagging(const double* c, int p, int q, matrix* target) {
 ColumnStatistics covCorr(const matrix* a, int n, int p, matrix*& target, short correlation,
                          const short* rowFlags, const matrix* weights, const Denominator& denominator) {
   matrix::matCheck(target, p, p, 0.0);
+  if (p < 1) return ColumnStatistics(0);
   std::vector<double> c(addressing::elementsInMemory<double>(p, p));
   ColumnStatistics s = covariances(a, n, p, rowFlags, weights, denominator, c.data());
   if (correlation != 0) toCorrelations(c.data(), p);
@@ -318,16 +319,22 @@ void M_CorrMatMat(const matrix* a, int n, int p1, const matrix* b, int p2, matri
   const Denominator denominator(unbiased, frequencyWeights);
   const Rows rows(n, rowFlags, weights);
   const Cells left(a, n, p1), right(b, n, p2);
-  const auto varianceOf = [&](const Cells& cells, int j) {
-    return coMoment(rows, cells, j, cells, j).over(denominator);
+  const auto variancesOf = [&](const Cells& cells, int p) {
+    std::vector<double> variances;
+    for (int j = 0; j < p; ++j) variances.push_back(coMoment(rows, cells, j, cells, j).over(denominator));
+    return variances;
   };
+  const bool scaled = correlation != 0 || determination != 0;
+  const std::vector<double> variancesA = variancesOf(left, scaled ? p1 : 0),
+                            variancesB = variancesOf(right, scaled ? p2 : 0);
   std::vector<double> c(addressing::elementsInMemory<double>(p1, p2));
   for (int j = 0; j < p2; ++j) {
     for (int i = 0; i < p1; ++i) {
       double& cell = c[static_cast<std::size_t>(i + std::ptrdiff_t{p1} * j)];
       cell = coMoment(rows, left, i, right, j).over(denominator);
-      if (correlation == 0 && determination == 0) continue;
-      cell = correlationOf(cell, varianceOf(left, i), varianceOf(right, j), false);
+      if (!scaled) continue;
+      cell = correlationOf(cell, variancesA[static_cast<std::size_t>(i)],
+                           variancesB[static_cast<std::size_t>(j)], false);
       if (determination != 0 && !isMarker(cell)) cell *= cell;
     }
   }
@@ -337,9 +344,13 @@ void M_CorrMatMat(const matrix* a, int n, int p1, const matrix* b, int p2, matri
 void M_CorrMatFromCovMat(const matrix* covariances, int p, matrix*& result) {
   const block::Values cells(covariances, p, p);
   matrix::matCheck(result, p, p, 0.0);
+  if (p < 1) return;
   const auto at = [&](int i, int j) { return cells[i + cells.stride() * j]; };
-  result::fillInto(result, p, p,
-                   [&](int i, int j) { return correlationOf(at(i, j), at(i, i), at(j, j), i == j); });
+  std::vector<double> c;
+  for (int j = 0; j < p; ++j) {
+    for (int i = 0; i < p; ++i) c.push_back(correlationOf(at(i, j), at(i, i), at(j, j), i == j));
+  }
+  storeFlagging(c.data(), p, p, result);
 }
 
 void M_Inertie_W(const matrix* a, int n, int p, const matrix* weights, const matrix* classes,
@@ -423,7 +434,8 @@ void M_Symmetrize(matrix* t, int n, int type) {
       for (int i = 0; i < j; ++i) {
         double& upper = cells[i + cells.stride() * j];
         double& lower = cells[j + cells.stride() * i];
-        if (type == 0) upper = lower = (upper + lower) / 2.0;
+        const bool missing = isMarker(upper) || isMarker(lower);
+        if (type == 0) upper = lower = missing ? kMissing : (upper + lower) / 2.0;
         if (type == 1) lower = upper;
         if (type == 2) upper = lower;
       }

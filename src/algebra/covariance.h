@@ -36,12 +36,13 @@ KAV_API int M_CovCorrAndMeanStDevVar(matrix*& a, int n, int p, matrix*& result, 
 /// Covariances of the columns of a (n x p1) with those of b (n x p2) (prepared, p1 x p2).
 ///
 /// @param correlation    non-zero: correlations
-/// @param determination  non-zero: their squares
+/// @param determination  non-zero: their squares, whatever correlation is
 KAV_API void M_CorrMatMat(const matrix* a, int n, int p1, const matrix* b, int p2, matrix*& result,
                           const short* rowFlags, const matrix* weights, short correlation,
                           short determination, short unbiased, short frequencyWeights);
 
-/// Correlations from covariances (prepared, p x p).
+/// Correlations from covariances (prepared, p x p); a cell with the marker, or by a variance with it, comes
+/// out flagged, holding the marker.
 KAV_API void M_CorrMatFromCovMat(const matrix* covariances, int p, matrix*& result);
 
 /// Scatter of the rows about 0, sum of w[i] x_i x_i' (prepared, p x p).
@@ -66,5 +67,6 @@ KAV_API int M_CheckIfSimOrDissim(const matrix* t, int n, int apriori);
 
 /// Makes a table symmetric in place.
 ///
-/// @param type  0 the mean of both triangles, 1 upper to lower, 2 lower to upper; others change nothing
+/// @param type  0 the mean of both triangles (the marker where one of them is), 1 upper to lower, 2 lower to
+/// upper; others change nothing
 KAV_API void M_Symmetrize(matrix* t, int n, int type);

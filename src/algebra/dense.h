@@ -17,9 +17,7 @@ struct Scale {
   std::ptrdiff_t stride = 0;
 };
 
-/// The factors of a vector, and of a table's diagonal.
 inline Scale vectorScale(const block::Values& v) { return {v.data(), 1}; }
-inline Scale diagonalScale(const block::Values& d) { return {d.data(), d.stride() + 1}; }
 
 /// c = a . b, or a . diag(scale) . b: rows x columns sums of depth terms each, added in ascending order.
 inline void multiply(const View& a, const View& b, int rows, int columns, int depth, double* c,

@@ -118,7 +118,12 @@ void M_ScalarsA(const matrix* a, int n, int p, double s, matrix* c) {
   fillInto(c, n, p, [&](int i, int j) { return s * cells[i + cells.stride() * j]; });
 }
 
-void M_ScalarsA2(matrix*& a, int n, int p, double s) { M_ScalarsA(a, n, p, s, a); }
+void M_ScalarsA2(matrix*& a, int n, int p, double s) {
+  if (a == nullptr || !result::hasCells(n, p)) return;
+  matrix scaled(n, p);
+  M_ScalarsA(a, n, p, s, &scaled);
+  scaled.copyMatTo(a);
+}
 
 void M_ScalarsTrA(const matrix* a, int n, int p, double s, matrix*& c) {
   prepared(c, p, n, 1, [&](block::Target& target) {
@@ -148,7 +153,7 @@ void M_ProductByElement(const matrix* a, int n, int p, const matrix* b, matrix* 
 void M_Square(matrix* a, int n, int p) {
   if (a == nullptr) return;
   const std::int64_t cells = addressing::cellCount(*a);
-  for (int c = 1; c <= p; ++c) {
+  for (int c = 1; c <= std::min(p, a->pX) && cells > 0; ++c) {
     const std::int64_t begin = addressing::linearIndex(1, c, a->nX);
     const std::int64_t end = std::min<std::int64_t>(begin + n, cells);
     if (begin >= cells) break;
@@ -189,9 +194,8 @@ void M_SquaredColumns(const matrix* a, int n, int p, matrix* w) {
 }
 
 double M_Trace(const matrix* a, int n) {
-  const block::Values cells(a, n, n);
   double sum = 0.0;
-  for (int i = 0; i < n; ++i) sum += cells[(cells.stride() + 1) * i];
+  for (int i = 0; i < n; ++i) sum += a == nullptr ? kOutside : a->getElement(i, i);
   return sum;
 }
 

@@ -5,7 +5,7 @@
 #include "core/matrix.h"
 #include "platform/export.h"
 
-/// C = s A (caller's), A = s A (in place), C = s A' (prepared, p x n).
+/// C = s A (caller's), A = s A (in place; the container takes the shape n x p), C = s A' (prepared, p x n).
 KAV_API void M_ScalarsA(const matrix* a, int n, int p, double s, matrix* c);
 KAV_API void M_ScalarsA2(matrix*& a, int n, int p, double s);
 KAV_API void M_ScalarsTrA(const matrix* a, int n, int p, double s, matrix*& c);

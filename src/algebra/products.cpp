@@ -1,6 +1,7 @@
 #include "algebra/products.h"
 
 #include <memory>
+#include <vector>
 
 #include "algebra/dense.h"
 #include "algebra/result_blocks.h"
@@ -24,6 +25,13 @@ std::unique_ptr<matrix> inverseOf(const matrix* b, int n, double tolerance) {
   short singular = kFalse;
   square.inverse1(inverse.get(), singular, tolerance);
   return inverse;
+}
+
+/// The diagonal of the leading block of a table, alone.
+std::vector<double> diagonalOf(const matrix* d, int size) {
+  std::vector<double> diagonal;
+  for (int k = 1; k <= size; ++k) diagonal.push_back(d == nullptr ? kOutside : d->vbget(k, k));
+  return diagonal;
 }
 
 /// c = a . diag(v) . a' into a caller's container.
@@ -168,15 +176,15 @@ void M_ProductTrAA(const matrix* a, int n, int p, matrix*& c) {
 
 void M_ProductADTrA(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
   prepared(c, n, n, p, [&](block::Target& target) {
-    const block::Values cells(a, n, p), diagonal(d, p, p);
-    dense::multiplySymmetric(viewOf(cells), n, p, target, dense::diagonalScale(diagonal));
+    const block::Values cells(a, n, p);
+    dense::multiplySymmetric(viewOf(cells), n, p, target, Scale{diagonalOf(d, p).data(), 1});
   });
 }
 
 void M_ProductTrADA(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
   prepared(c, p, p, n, [&](block::Target& target) {
-    const block::Values cells(a, n, p), diagonal(d, n, n);
-    dense::multiplySymmetric(viewOf(cells).transposed(), p, n, target, dense::diagonalScale(diagonal));
+    const block::Values cells(a, n, p);
+    dense::multiplySymmetric(viewOf(cells).transposed(), p, n, target, Scale{diagonalOf(d, n).data(), 1});
   });
 }
 
@@ -194,18 +202,20 @@ void M_ProductTrADiagVA(const matrix* a, int n, int p, const matrix* v, matrix* 
 
 void M_ProductADiag(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
   prepared(c, n, p, 1, [&](block::Target& target) {
-    const block::Values cells(a, n, p), diagonal(d, p, p);
+    const block::Values cells(a, n, p);
+    const std::vector<double> diagonal = diagonalOf(d, p);
     result::fill(target, n, p, [&](int i, int j) {
-      return cells[i + cells.stride() * j] * diagonal[(diagonal.stride() + 1) * j];
+      return cells[i + cells.stride() * j] * diagonal[static_cast<std::size_t>(j)];
     });
   });
 }
 
 void M_ProductTrADiag(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
   prepared(c, p, n, 1, [&](block::Target& target) {
-    const block::Values cells(a, n, p), diagonal(d, n, n);
+    const block::Values cells(a, n, p);
+    const std::vector<double> diagonal = diagonalOf(d, n);
     result::fill(target, p, n, [&](int i, int j) {
-      return cells[j + cells.stride() * i] * diagonal[(diagonal.stride() + 1) * j];
+      return cells[j + cells.stride() * i] * diagonal[static_cast<std::size_t>(j)];
     });
   });
 }
@@ -292,9 +302,10 @@ void M_ProductHorizAB2(matrix*& a, int n, int* p, const matrix* b, int q) {
 void M_ProductDesignAB2(matrix*& a, int n, int* p, const matrix* b, int q, int mode, const matrix* weights,
                         matrix*& frequencies) {
   crossColumnsInPlace(a, n, p, b, q, [](double x, double y) { return x == 0.0 || y == 0.0 ? 0.0 : x * y; });
-  const int columns = p == nullptr ? 0 : *p;
+  if (mode != 3 || p == nullptr) return;
+  const int columns = *p;
   matrix::matCheck(frequencies, columns, 1, 0.0);
-  if (mode != 3 || weights == nullptr || !result::hasCells(n, columns, q)) return;
+  if (weights == nullptr || !result::hasCells(n, columns, q)) return;
   const block::Values rowWeights(weights, n);
   block::Target sums(frequencies, columns);
   into(a, n, columns, [&](block::Target& table) {

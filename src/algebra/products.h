@@ -94,6 +94,7 @@ KAV_API void M_ProductHorizAB2(matrix*& a, int n, int* p, const matrix* b, int q
 ///
 /// @param mode         other values than 3 leave the products
 /// @param weights      n, required in mode 3
-/// @param frequencies  pq x 1, prepared: in mode 3 the positive weight sum of each column, else 0.0
+/// @param frequencies  in mode 3 the positive weight sum of each column (prepared, pq x 1); else not looked
+/// at
 KAV_API void M_ProductDesignAB2(matrix*& a, int n, int* p, const matrix* b, int q, int mode,
                                 const matrix* weights, matrix*& frequencies);

@@ -181,7 +181,9 @@ void threeByFirst(matrix* first, int n1, int p, matrix* second, int n2, matrix* 
   if (!result::hasCells(n1, p)) return;
   matrix means(p, 1, 0.0), stdevs(p, 1, 0.0);
   statistics(first, n1, p, &means, &stdevs, nullptr, nullptr, nullptr, Denominator(kTrue, kTrue), kFalse);
-  const auto scaled = [=](double x, double mean, double sd) { return standardized(x, mean, sd) * factor; };
+  const auto scaled = [=](double x, double mean, double sd) {
+    return sd > 0.0 ? standardized(x, mean, sd) * factor : 0.0;
+  };
   transform(first, n1, p, &means, &stdevs, first, scaled);
   if (second != nullptr) transform(second, n2, p, &means, &stdevs, second, scaled);
   if (third != nullptr) transform(third, n3, p, &means, &stdevs, third, scaled);

@@ -9,7 +9,7 @@ using namespace bridge;
 int entries::VB_M_CovCorr(double* iMat, int n, int p, double* CovCorr, VARIANT_BOOL Correlations,
                           VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable c(CovCorr, p, p);
   const int status = M_CovCorr(a, n, p, c, Correlations, iMissing, weights, Unbiased, BiasIsOne);
   store(c);
@@ -22,7 +22,7 @@ int entries::VB_M_CovCorrAndMeanStDevVar(double* iMat, int n, int p, double* Cov
                                          VARIANT_BOOL BiasIsOne, VARIANT_BOOL ZeroMeaniMat,
                                          VARIANT_BOOL StandardizeiMat) {
   InOutTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable c(CovCorr, p, p);
   OutTable means(Mean, p, 1), stdevs(StDev, p, 1), variances(Var, p, 1);
   const int status = M_CovCorrAndMeanStDevVar(a, n, p, c, means, stdevs, variances, Correlations, iMissing,
@@ -36,14 +36,14 @@ void entries::VB_M_CorrMatMat(double* iMat1, int n, int p1, double* iMat2, int p
                               VARIANT_BOOL Determination, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
   const InTable a(iMat1, n, p1);
   const InTable b(iMat2, n, p2);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable c(CovCorr, p1, p2);
   M_CorrMatMat(a, n, p1, b, p2, c, iMissing, weights, Correlations, Determination, Unbiased, BiasIsOne);
   store(c);
 }
 
 void entries::VB_M_CorrMatFromCovMat(double* iCovMat, int p, double* oCorrMat) {
-  const InTable a(iCovMat, p, p);
+  const InTable a(iCovMat, p, p, Cells::KeepAll);
   OutTable c(oCorrMat, p, p);
   M_CorrMatFromCovMat(a, p, c);
   store(c);
@@ -53,14 +53,14 @@ void entries::VB_M_EuclidDist2(double* iAMat, int n, int p, double* oDistMat, do
                                VARIANT_BOOL iByRows) {
   const InTable a(iAMat, n, p);
   const int size = iByRows != 0 ? n : p;
-  const InVector weights(w, iByRows != 0 ? p : n);
+  const OptionalVector weights(w, iByRows != 0 ? p : n);
   OutTable c(oDistMat, size, size);
   M_EuclidDist2(a, n, p, c, weights, iByRows);
   store(c);
 }
 
 void entries::VB_M_Symmetrize(double* t, int n, int iType) {
-  InOutTable table(t, n, n);
+  InOutTable table(t, n, n, Cells::KeepAll);
   M_Symmetrize(table, n, iType);
   store(table);
 }

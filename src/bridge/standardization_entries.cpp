@@ -21,7 +21,7 @@ void entries::VB_M_Center2(double* ioMat, int n, int p) {
 
 void entries::VB_M_CenterW(double* iMat, int n, int p, double* w, double* oMat) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable c(oMat, n, p);
   M_CenterW(a, n, p, weights, c);
   store(c);
@@ -29,7 +29,7 @@ void entries::VB_M_CenterW(double* iMat, int n, int p, double* w, double* oMat) 
 
 void entries::VB_M_CenterW2(double* ioMat, int n, int p, double* w) {
   InOutTable a(ioMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   M_CenterW2(a, n, p, weights);
   store(a);
 }
@@ -49,7 +49,7 @@ void entries::VB_M_Reduce2(double* ioMat, int n, int p, VARIANT_BOOL Unbiased) {
 
 void entries::VB_M_ReduceW(double* iMat, int n, int p, double* w, double* oMat, VARIANT_BOOL Unbiased) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable c(oMat, n, p);
   M_ReduceW(a, n, p, weights, c, Unbiased);
   store(c);
@@ -57,7 +57,7 @@ void entries::VB_M_ReduceW(double* iMat, int n, int p, double* w, double* oMat, 
 
 void entries::VB_M_ReduceW2(double* ioMat, int n, int p, double* w, VARIANT_BOOL Unbiased) {
   InOutTable a(ioMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   M_ReduceW2(a, n, p, weights, Unbiased);
   store(a);
 }
@@ -78,7 +78,7 @@ void entries::VB_M_Standardize3(double* ioMat, int n, int p, double* oMean, doub
 
 void entries::VB_M_StandardizeW2(double* ioMat, int n, int p, double* w, VARIANT_BOOL Unbiased) {
   InOutTable a(ioMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   M_StandardizeW2(a, n, p, weights, Unbiased);
   store(a);
 }
@@ -86,7 +86,7 @@ void entries::VB_M_StandardizeW2(double* ioMat, int n, int p, double* w, VARIANT
 void entries::VB_M_StandardizeW(double* iMat, int n, int p, double* w, VARIANT_BOOL Unbiased,
                                 VARIANT_BOOL isBiasOne, double* oMat) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable c(oMat, n, p);
   M_StandardizeW(a, n, p, weights, Unbiased, isBiasOne, c);
   store(c);
@@ -96,7 +96,7 @@ void entries::VB_M_Standardize(double* iMat, int n, int p, double* oMat, double*
                                double* Var, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
                                VARIANT_BOOL BiasIsOne) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable c(oMat, n, p);
   OutTable means(Mean, p, 1), stdevs(StDev, p, 1), variances(Var, p, 1);
   M_Standardize(a, n, p, c, means, stdevs, variances, iMissing, weights, Unbiased, BiasIsOne);
@@ -117,7 +117,7 @@ int entries::VB_M_StandardizeKnownMeansStDev(double* iMat, int n, int p, double*
 void entries::VB_M_Normalize(double* iMat, int n, int p, double* Norm, VARIANT_BOOL* iMissing, double* w,
                              VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
   InOutTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable norms(Norm, p, 1);
   M_Normalize(a, n, p, norms, iMissing, weights, Unbiased, BiasIsOne);
   store(a, norms);
@@ -140,7 +140,7 @@ int entries::VB_M_MeanStDev(double* iMat, int n, int p, double* Mean, double* St
                             double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne,
                             VARIANT_BOOL MissingPerCol) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable means(Mean, p, 1), stdevs(StDev, p, 1);
   const int status =
       M_MeanStDev(a, n, p, means, stdevs, iMissing, weights, Unbiased, BiasIsOne, MissingPerCol);
@@ -152,7 +152,7 @@ int entries::VB_M_MeanStDevVar(double* iMat, int n, int p, double* Mean, double*
                                VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
                                VARIANT_BOOL BiasIsOne) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable means(Mean, p, 1), stdevs(StDev, p, 1), variances(Var, p, 1);
   const int status =
       M_MeanStDevVar(a, n, p, means, stdevs, variances, iMissing, weights, Unbiased, BiasIsOne);
@@ -164,13 +164,13 @@ void entries::VB_M_MeanStDevVarOneInMat(double* iMat, int n, int IDCol, double* 
                                         double* Var, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
                                         VARIANT_BOOL BiasIsOne) {
   const InTable a(iMat, n, IDCol);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   M_MeanStDevVarOneInMat(a, n, IDCol, Mean, StDev, Var, iMissing, weights, Unbiased, BiasIsOne);
 }
 
 int entries::VB_M_Mean(double* iMat, int n, int p, double* Mean, VARIANT_BOOL* iMissing, double* w) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable means(Mean, p, 1);
   const int status = M_Mean(a, n, p, means, iMissing, weights);
   store(means);
@@ -180,7 +180,7 @@ int entries::VB_M_Mean(double* iMat, int n, int p, double* Mean, VARIANT_BOOL* i
 void entries::VB_M_StandardizeByVect(double* iMat, int n, int p, VARIANT_BOOL* iMissing, double* w,
                                      VARIANT_BOOL Unbiased, double* oMat) {
   const InTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   OutTable c(oMat, n, p);
   M_StandardizeByVect(a, n, p, iMissing, weights, Unbiased, c);
   store(c);
@@ -189,7 +189,7 @@ void entries::VB_M_StandardizeByVect(double* iMat, int n, int p, VARIANT_BOOL* i
 void entries::VB_M_StandardizeByVect2(double* iMat, int n, int p, VARIANT_BOOL* iMissing, double* w,
                                       VARIANT_BOOL Unbiased) {
   InOutTable a(iMat, n, p);
-  const InVector weights(w, n);
+  const OptionalVector weights(w, n);
   M_StandardizeByVect2(a, n, p, iMissing, weights, Unbiased);
   store(a);
 }

@@ -152,7 +152,7 @@ class KAV_API matrix {
   /// Sum of the squares of a column over all rows, as stored.
   double VInnerProd(int j) const;
 
-  /// Multiplies row i by s; row r by s[r] for r < n. Rows outside and a null s change nothing.
+  /// Multiplies row i by s; row r by s[r] for r < n. Cells by linear index; a null s changes nothing.
   /// @return 0.0
   double SProd(int i, double s);
   double weighting(const double* s, int n);

@@ -4,6 +4,7 @@
 #include "core/block.h"
 #include "core/matrix.h"
 #include "core/moments.h"
+#include "core/storage.h"
 
 namespace {
 
@@ -51,7 +52,7 @@ double matrix::vecProd(int col, const matrix* v, int vCol) const {
 
 void matrix::trans1vecProd(int i, matrix* out) const {
   if (out == nullptr || i < 0 || i >= nX) return;
-  const double weight = weights == nullptr ? 1.0 : weights[i];
+  const double weight = storage::rowWeight(*this, i);
   for (int a = 0; a < pX; ++a) {
     for (int b = 0; b < pX; ++b) {
       out->setElement(a, b, out->getElement(a, b) + weight * getElement(i, a) * getElement(i, b));
@@ -85,7 +86,7 @@ double matrix::calcMu(int j) const {
   moments::Moments m;
   for (int i = 0; i < nX; ++i) {
     if (!addressing::isInside(*this, addressing::linearIndex(i, j, nX)) || getMissing(i, j)) continue;
-    m.add(getElement(i, j), weights == nullptr ? 1.0 : weights[i]);
+    m.add(getElement(i, j), storage::rowWeight(*this, i));
   }
   return m.count() == 0.0 ? kMissing : m.mean();
 }

@@ -5,6 +5,7 @@
 #include "core/addressing.h"
 #include "core/block.h"
 #include "core/matrix.h"
+#include "core/storage.h"
 
 namespace {
 
@@ -13,9 +14,6 @@ bool isAbsent(const matrix* m, std::int64_t k) {
   if (m == nullptr || !addressing::isInside(*m, k)) return false;
   return m->missing[k] || std::isnan(m->values[k]) || isMarker(m->values[k]);
 }
-
-/// Row weights, 1.0 where the container has none.
-double weightOf(const matrix& m, int i) { return m.weights == nullptr ? 1.0 : m.weights[i]; }
 
 template <class Weight>
 double innerProduct(const matrix& t, int col, bool byRow, int idx, const matrix* m, Weight weight) {
@@ -69,13 +67,13 @@ double matrix::VInnerProd(int col, bool byRow, int idx, const matrix* m) const {
 }
 
 double matrix::VInnerProdWeighted(int col, bool byRow, int idx, const matrix* m) const {
-  return innerProduct(*this, col, byRow, idx, m, [this](int i) { return weightOf(*this, i); });
+  return innerProduct(*this, col, byRow, idx, m, [this](int i) { return storage::rowWeight(*this, i); });
 }
 
 void matrix::GaussProd(const matrix* t, int k, matrix* out) const { rowStep(*this, t, k, out, kUnweighted); }
 
 void matrix::GaussProdWeighted(const matrix* t, int k, matrix* out) const {
-  rowStep(*this, t, k, out, [this](int r) { return r < nX ? weightOf(*this, r) : kOutside; });
+  rowStep(*this, t, k, out, [this](int r) { return storage::rowWeight(*this, r); });
 }
 
 void matrix::transGaussProd(const matrix* t, int k, matrix* out) const {
@@ -83,5 +81,5 @@ void matrix::transGaussProd(const matrix* t, int k, matrix* out) const {
 }
 
 void matrix::transGaussProdWeighted(const matrix* t, int k, matrix* out) const {
-  columnStep(*this, t, k, out, true, [this](int i) { return weightOf(*this, i); });
+  columnStep(*this, t, k, out, true, [this](int i) { return storage::rowWeight(*this, i); });
 }

@@ -1,6 +1,5 @@
 // Statistics of the columns and what is scaled by them.
 
-#include <algorithm>
 #include <cmath>
 
 #include "core/addressing.h"
@@ -10,15 +9,13 @@
 
 namespace {
 
-/// The weighted update over the present cells of a column; rows that the container was not built with
-/// count 1.0.
+/// The weighted update over the present cells of a column.
 moments::Moments momentsOf(const matrix& m, int j) {
   moments::Moments result;
-  const int weighted = m.weights == nullptr ? 0 : storage::weightedRows(m);
   const std::int64_t begin = addressing::linearIndex(0, j, m.nX);
   for (int i = 0; i < m.nX; ++i) {
     const std::int64_t k = begin + i;
-    if (!m.missing[k] && !isMarker(m.values[k])) result.add(m.values[k], i < weighted ? m.weights[i] : 1.0);
+    if (!m.missing[k] && !isMarker(m.values[k])) result.add(m.values[k], storage::rowWeight(m, i));
   }
   return result;
 }
@@ -100,6 +97,6 @@ double matrix::SProd(int i, double s) {
 }
 
 double matrix::weighting(const double* s, int n) {
-  for (int r = 0; s != nullptr && r < std::min(n, nX); ++r) SProd(r, s[r]);
+  for (int r = 0; s != nullptr && r < n; ++r) SProd(r, s[r]);
   return 0.0;
 }

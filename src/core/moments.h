@@ -1,6 +1,7 @@
 // The weighted one-pass update of means and sums of squares (West 1979, Communications of the ACM 22,
 // 532-535), the denominators of variances, and the one-pass update of the third and fourth central sums: once
-// for everybody, since their order of operations decides the bits of every statistic. Internal.
+// for everybody, since their order of operations decides the bits of every statistic. What works on several
+// columns at a time repeats the update and is held to it by tests. Internal.
 #pragma once
 
 #include "core/marker.h"

@@ -51,4 +51,9 @@ inline const Sizes& builtSizes(const matrix& m) {
 inline int weightedRows(const matrix& m) { return std::clamp(m.nX, 0, builtSizes(m).rows); }
 inline int describedColumns(const matrix& m) { return std::clamp(m.pX, 0, builtSizes(m).columns); }
 
+/// The weight that a row counts with: 1.0 where it has none of its own.
+inline double rowWeight(const matrix& m, int i) {
+  return m.weights != nullptr && i >= 0 && i < weightedRows(m) ? m.weights[i] : 1.0;
+}
+
 }  // namespace storage

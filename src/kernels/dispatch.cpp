@@ -46,6 +46,14 @@ struct Supported {
 
 const Supported kSupported;
 
+// Where vectors of 512 bits run as two halves they lose to those of 256 bits by a quarter.
+const Table& choose() {
+  const int last = kSupported.count - 1;
+  return *kSupported.tables[last == 2 && !__builtin_cpu_is("intel") ? 1 : last];
+}
+
+const Table& kBest = choose();
+
 }  // namespace
 
 std::size_t productScratch(const Product& p) {
@@ -61,10 +69,6 @@ const Table* const* supported(int* count) {
   return kSupported.tables;
 }
 
-// Where vectors of 512 bits run as two halves they lose to those of 256 bits by a quarter.
-const Table& best() {
-  const int last = kSupported.count - 1;
-  return *kSupported.tables[last == 2 && !__builtin_cpu_is("intel") ? 1 : last];
-}
+const Table& best() { return kBest; }
 
 }  // namespace kernels

@@ -8,6 +8,9 @@
 #include <map>
 #include <string>
 
+#include "algebra/covariance.h"
+#include "algebra/products.h"
+#include "algebra/standardization.h"
 #include "sort/sorts.h"
 #include "stats/quantiles.h"
 #include "stats/ranks.h"
@@ -71,6 +74,32 @@ std::uint64_t hashOfSorts(const matrix& kept) {
   return hash.value();
 }
 
+/// Products, inverse and covariances, with whatever kernels the processor runs.
+std::uint64_t hashOfAlgebra(const matrix& table, const matrix& kept, const matrix& w, const short* exclude) {
+  BitHash hash;
+  constexpr int kSize = 70;
+  matrix square(kSize, kSize);
+  for (int k = 0; k < kSize * kSize; ++k) {
+    const double x = kept.values[k];
+    square.values[k] = std::fabs(x) < 1e6 ? x : 0.385;
+  }
+  matrix *product = nullptr, *covariance = nullptr, *means = nullptr, inverse(kSize, kSize);
+  matrix* stdevs = &inverse;
+  short singular = kFalse;
+  M_ProductAB(&square, kSize, kSize, &square, kSize, product);
+  hash.add(*product).add(square.inverse1(&inverse, singular, -1.0)).add(inverse);
+  M_CovCorr(&table, kRows, kColumns, covariance, kTrue, exclude, &w, kTrue, kFalse);
+  hash.add(*covariance);
+  M_CovCorr(&square, kSize, 9, covariance, kFalse, nullptr, nullptr, kTrue, kFalse);
+  M_MeanStDev(&square, kSize, kSize, means, stdevs, nullptr, nullptr, kTrue, kTrue, kFalse);
+  hash.add(*covariance).add(*means).add(*stdevs);
+  delete product;
+  delete covariance;
+  delete means;
+  if (stdevs != &inverse) delete stdevs;
+  return hash.value();
+}
+
 Hashes hashesOfCorpus() {
   const std::vector<double> cells = corpusCells(1, kRows * kColumns), weightCells = corpusCells(2, kRows);
   const matrix table(kRows, kColumns, cells.data(), false, 0, 0),
@@ -90,6 +119,7 @@ Hashes hashesOfCorpus() {
     sums.add(V_Mean(&table, n, flags.data(), &weights)).add(V_Mean(&kept, n, flags.data(), &weights));
   }
   hashes["sums"] = sums.value();
+  hashes["algebra"] = hashOfAlgebra(table, kept, weights, exclude.data());
   hashes["statistics"] = hashOfStatistics(table, kept, weights, exclude.data());
   hashes["sorts"] = hashOfSorts(kept);
   matrix transposed(kColumns, kRows), stacked(kRows * kColumns, 1);
