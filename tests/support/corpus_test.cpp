@@ -83,18 +83,20 @@ std::uint64_t hashOfAlgebra(const matrix& table, const matrix& kept, const matri
     const double x = kept.values[k];
     square.values[k] = std::fabs(x) < 1e6 ? x : 0.385;
   }
-  matrix *product = nullptr, *covariance = nullptr, *means = nullptr, inverse(kSize, kSize);
+  matrix *product = nullptr, *covariance = nullptr, *pairwise = nullptr, *means = nullptr,
+         inverse(kSize, kSize);
   matrix* stdevs = &inverse;
   short singular = kFalse;
   M_ProductAB(&square, kSize, kSize, &square, kSize, product);
   hash.add(*product).add(square.inverse1(&inverse, singular, -1.0)).add(inverse);
-  M_CovCorr(&table, kRows, kColumns, covariance, kTrue, exclude, &w, kTrue, kFalse);
-  hash.add(*covariance);
+  M_CovCorr(&table, kRows, kColumns, pairwise, kTrue, exclude, &w, kTrue, kFalse);
+  hash.add(*pairwise);
   M_CovCorr(&square, kSize, 9, covariance, kFalse, nullptr, nullptr, kTrue, kFalse);
   M_MeanStDev(&square, kSize, kSize, means, stdevs, nullptr, nullptr, kTrue, kTrue, kFalse);
   hash.add(*covariance).add(*means).add(*stdevs);
   delete product;
   delete covariance;
+  delete pairwise;
   delete means;
   if (stdevs != &inverse) delete stdevs;
   return hash.value();
