@@ -230,8 +230,8 @@ double correlationOf(double covariance, double varianceA, double varianceB, bool
 
 /// Upper triangle of covariances to correlations.
 void toCorrelations(double* c, int p) {
-  std::vector<double> variances;
-  for (int j = 0; j < p; ++j) variances.push_back(c[j + std::ptrdiff_t{p} * j]);
+  std::vector<double> variances(static_cast<std::size_t>(p));
+  for (int j = 0; j < p; ++j) variances[static_cast<std::size_t>(j)] = c[j + std::ptrdiff_t{p} * j];
   for (int b = 0; b < p; ++b) {
     for (int a = 0; a <= b; ++a) {
       double& cell = c[a + std::ptrdiff_t{p} * b];
@@ -320,8 +320,10 @@ void M_CorrMatMat(const matrix* a, int n, int p1, const matrix* b, int p2, matri
   const Rows rows(n, rowFlags, weights);
   const Cells left(a, n, p1), right(b, n, p2);
   const auto variancesOf = [&](const Cells& cells, int p) {
-    std::vector<double> variances;
-    for (int j = 0; j < p; ++j) variances.push_back(coMoment(rows, cells, j, cells, j).over(denominator));
+    std::vector<double> variances(static_cast<std::size_t>(p));
+    for (int j = 0; j < p; ++j) {
+      variances[static_cast<std::size_t>(j)] = coMoment(rows, cells, j, cells, j).over(denominator);
+    }
     return variances;
   };
   const bool scaled = correlation != 0 || determination != 0;

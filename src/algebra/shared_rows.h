@@ -98,12 +98,12 @@ void addBlock(const double* const* x, const RowBlocks& rows, Pair* to, const Dev
   std::copy_n(to, pairs, running);
   for (int r = 0; r < rows.count(); ++r) {
     const __m128d ofMean = _mm_set1_pd(rows.ofMean()[r]), ofSquare = _mm_set1_pd(rows.ofSquare()[r]);
-    for (int k = 0; k < pairs; ++k) {
+    for (std::ptrdiff_t k = 0; k < pairs; ++k) {
       const __m128d cells = _mm_loadh_pd(_mm_load_sd(x[2 * k] + r), x[2 * k + 1] + r);
       const __m128d d = running[k].add(cells, ofMean, ofSquare);
       if constexpr (keep) {
-        double* deviation = deviations.deviations + std::ptrdiff_t{2} * k * kBlock + r;
-        double* weighted = deviations.weighted + std::ptrdiff_t{2} * k * kBlock + r;
+        double* deviation = deviations.deviations + 2 * k * kBlock + r;
+        double* weighted = deviations.weighted + 2 * k * kBlock + r;
         const __m128d e = _mm_mul_pd(ofSquare, d);
         _mm_storel_pd(deviation, d);
         _mm_storeh_pd(deviation + kBlock, d);

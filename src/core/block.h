@@ -37,7 +37,7 @@ class Reader {
   /// @param array  the container's array; looked at only inside the container
   Reader(const matrix* m, const T* array, int n, int p, T outside) {
     if (addressing::cellCount(n, p) == 0) return;
-    if (liesInside(m, n, p)) {
+    if (m != nullptr && liesInside(m, n, p)) {
       cells_ = array;
       stride_ = m->nX;
     } else {

@@ -50,7 +50,7 @@ class LuDecomposition {
       }
       kernel.backSubstitute(u.data(), n_, x.data());
       for (int c = 0; c < count; ++c) {
-        const int target = places_[static_cast<std::size_t>(first + c)];
+        const int target = places_[static_cast<std::size_t>(first) + static_cast<std::size_t>(c)];
         for (int i = 0; i < n_; ++i) out.setElement(i, target, x[std::ptrdiff_t{kernel.sides} * i + c]);
       }
     }
