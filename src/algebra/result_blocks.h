@@ -1,6 +1,7 @@
 // How the algebra's workers make and fill their results. Internal.
 #pragma once
 
+#include <cstring>
 #include <limits>
 #include <new>
 
@@ -23,11 +24,19 @@ void into(matrix* c, int rows, int columns, Compute compute) {
   target.store();
 }
 
+/// Whether a container has just that shape and no flagged cell: then refilling it before every cell is
+/// written would show nowhere.
+inline bool isWhole(const matrix* c, int rows, int columns) {
+  return addressing::designatesContainer(c) && c->nX == rows && c->pX == columns &&
+         std::memchr(c->missing, 1, static_cast<std::size_t>(addressing::cellCount(*c))) == nullptr;
+}
+
 /// Prepares c as rows x columns of 0.0, and lets compute(target) fill it when all extents are at least 1.
 template <class Compute>
 void prepared(matrix*& c, int rows, int columns, int depth, Compute compute) {
-  matrix::matCheck(c, rows, columns, 0.0);
-  if (hasCells(rows, columns, depth)) into(c, rows, columns, compute);
+  const bool computed = hasCells(rows, columns, depth);
+  if (!computed || !isWhole(c, rows, columns)) matrix::matCheck(c, rows, columns, 0.0);
+  if (computed) into(c, rows, columns, compute);
 }
 
 /// target(i, j) = of(i, j).
