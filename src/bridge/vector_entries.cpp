@@ -4,8 +4,8 @@
 #include "bridge/generated/entries.h"
 #include "platform/scalar.h"
 #include "stats/goodness_of_fit.h"
+#include "stats/other_means.h"
 #include "stats/quantiles.h"
-#include "stats/special_means.h"
 #include "stats/vector_moments.h"
 #include "stats/vector_sums.h"
 

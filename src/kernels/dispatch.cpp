@@ -5,24 +5,18 @@
 
 namespace kernels {
 
-namespace sse2 {
-extern const int pairLanes, sides;
-void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
-void product(const Product& p, double* scratch);
-void backSubstitute(const double* u, std::ptrdiff_t n, double* x);
-}  // namespace sse2
-namespace avx2 {
-extern const int pairLanes, sides;
-void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
-void product(const Product& p, double* scratch);
-void backSubstitute(const double* u, std::ptrdiff_t n, double* x);
-}  // namespace avx2
-namespace avx512 {
-extern const int pairLanes, sides;
-void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
-void product(const Product& p, double* scratch);
-void backSubstitute(const double* u, std::ptrdiff_t n, double* x);
-}  // namespace avx512
+// What each instruction set's sources define.
+#define KAV_KERNELS(isa)                                                                            \
+  namespace isa {                                                                                   \
+  extern const int pairLanes, sides;                                                                \
+  void product(const Product& p, double* scratch);                                                  \
+  void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums); \
+  void backSubstitute(const double* u, std::ptrdiff_t n, double* x);                                \
+  }
+KAV_KERNELS(sse2)
+KAV_KERNELS(avx2)
+KAV_KERNELS(avx512)
+#undef KAV_KERNELS
 
 namespace {
 

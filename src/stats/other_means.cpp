@@ -1,4 +1,4 @@
-#include "stats/special_means.h"
+#include "stats/other_means.h"
 
 #include <cmath>
 

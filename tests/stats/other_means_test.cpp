@@ -1,11 +1,11 @@
 #include <vector>
 
 #include "platform/scalar.h"
-#include "stats/special_means.h"
+#include "stats/other_means.h"
 #include "support/bits.h"
 #include "support/random.h"
 
-TEST(SpecialMeans, EqualTheirDefinitionBitForBit) {
+TEST(OtherMeans, EqualTheirDefinitionBitForBit) {
   Random random(81);
   for (int round = 0; round < 60; ++round) {
     const int n = round < 30 ? round / 6 : 40;
