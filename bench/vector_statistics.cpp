@@ -6,6 +6,7 @@
 #include <memory>
 #include <vector>
 
+#include "column.h"
 #include "platform/calling.h"
 #include "ratios.h"
 #include "stats/vector_extremes.h"
@@ -26,24 +27,8 @@ int KAV_CALL VB_SortQDbl(double* ioSlave, int n, int pSlave, int iLowerBound, in
 
 namespace {
 
-struct Data {
-  explicit Data(int rows) : n(rows), x(static_cast<std::size_t>(rows)), w(x.size()), exclude(x.size()) {
-    for (std::size_t i = 0; i < x.size(); ++i) {
-      x[i] = 2.385 + static_cast<double>((i * 7919) % 1000);
-      w[i] = 0.5 + static_cast<double>(i % 3);
-    }
-    cells = std::make_unique<matrix>(n, 1, x.data(), false, 0, 0);
-    weights = std::make_unique<matrix>(n, 1, w.data(), false, 0, 0);
-  }
-
-  int n;
-  std::vector<double> x, w;
-  std::vector<short> exclude;
-  std::unique_ptr<matrix> cells, weights;
-};
-
 /// The update of the variance as it is written down, for rows that all take part.
-double plainVariance(const Data& data) {
+double plainVariance(const Column& data) {
   double total = 0.0, count = 0.0, mean = 0.0, squares = 0.0;
   for (int i = 0; i < data.n; ++i) {
     const double w = data.weights->values[i];
@@ -57,7 +42,7 @@ double plainVariance(const Data& data) {
 }
 
 /// Nothing but one packed division for each row.
-double divisionsOnly(const Data& data) {
+double divisionsOnly(const Column& data) {
   __m128d sum = _mm_setzero_pd();
   for (int i = 0; i < data.n; ++i) {
     const __m128d w = _mm_set1_pd(data.weights->values[i]);
@@ -67,14 +52,14 @@ double divisionsOnly(const Data& data) {
 }
 
 /// Nothing but the chain that each row's mean is of the one before.
-double meanChainOnly(const Data& data) {
+double meanChainOnly(const Column& data) {
   double mean = 0.0;
   for (int i = 0; i < data.n; ++i) mean += 0.385 * (data.cells->values[i] - mean);
   return mean;
 }
 
 /// Reads doubles, flags and exclusions once, in any order.
-double readOnce(const Data& data) {
+double readOnce(const Column& data) {
   __m128d sums[4] = {};
   __m128i bytes = _mm_setzero_si128();
   int i = 0;
@@ -94,7 +79,7 @@ double readOnce(const Data& data) {
 }
 
 /// The rule of the extremes, cell by cell on the fields.
-double plainRange(const Data& data) {
+double plainRange(const Column& data) {
   double min = data.cells->values[0], max = min;
   for (int i = 1; i < data.n; ++i) {
     const double cell = data.cells->values[i];
@@ -106,15 +91,10 @@ double plainRange(const Data& data) {
   return max - min;
 }
 
-template <class F>
-std::function<void()> keeping(std::shared_ptr<Data> data, F f) {
-  return [data = std::move(data), f] { benchmark::DoNotOptimize(f(*data)); };
-}
-
 void enterRows(const std::string& rows, int n) {
-  const auto data = std::make_shared<Data>(n);
+  const auto data = std::make_shared<Column>(n);
   const std::string variance = "V_MeanVar of " + rows;
-  contest(variance, "library", keeping(data, [](const Data& d) {
+  contest(variance, "library", keeping(data, [](const Column& d) {
             double mean, var;
             V_MeanVar(d.cells.get(), d.n, &mean, &var, d.exclude.data(), d.weights.get(), -1, 0);
             return var;
@@ -122,7 +102,7 @@ void enterRows(const std::string& rows, int n) {
   contest(variance, "one packed division for each row, nothing else", keeping(data, divisionsOnly));
   contest(variance, "the chain of means, nothing else", keeping(data, meanChainOnly));
   contest(variance, "plain loop without any test", keeping(data, plainVariance));
-  contest(variance, "Eigen, two passes, no missing cells", keeping(data, [](const Data& d) {
+  contest(variance, "Eigen, two passes, no missing cells", keeping(data, [](const Column& d) {
             const Eigen::Map<const Eigen::ArrayXd> x(d.cells->values, d.n), w(d.weights->values, d.n);
             const double total = w.sum();
             const double mean = (w * x).sum() / total;
@@ -130,7 +110,7 @@ void enterRows(const std::string& rows, int n) {
           }));
 
   const std::string extremes = "V_MinMax of " + rows;
-  contest(extremes, "library", keeping(data, [](const Data& d) {
+  contest(extremes, "library", keeping(data, [](const Column& d) {
             double min, max;
             V_MinMax(d.cells.get(), d.n, &min, &max, d.exclude.data());
             return max - min;
@@ -138,38 +118,38 @@ void enterRows(const std::string& rows, int n) {
   contest(extremes, "the memory read once", keeping(data, readOnce));
   contest(extremes, "plain loop on the fields", keeping(data, plainRange));
   const std::string missing = "V_NbMissing of " + rows;
-  contest(missing, "library", keeping(data, [](const Data& d) { return V_NbMissing(d.cells.get(), d.n); }));
+  contest(missing, "library", keeping(data, [](const Column& d) { return V_NbMissing(d.cells.get(), d.n); }));
   contest(missing, "the memory read once", keeping(data, readOnce));
 }
 
 void enterEntriesOfFewRows() {
-  const auto data = std::make_shared<Data>(10);
-  contest("VB_V_MeanVar of 10 rows", "library", keeping(data, [](Data& d) {
+  const auto data = std::make_shared<Column>(10);
+  contest("VB_V_MeanVar of 10 rows", "library", keeping(data, [](Column& d) {
             double mean, var;
             VB_V_MeanVar(d.x.data(), d.n, &mean, &var, d.exclude.data(), d.w.data(), -1, 0);
             return var;
           }));
   contest("VB_V_MeanVar of 10 rows", "plain loop without any test", keeping(data, plainVariance));
   contest("VB_V_Quantile of 10 rows", "library",
-          keeping(data, [](Data& d) { return VB_V_Quantile(d.x.data(), d.n, 0.3); }));
-  contest("VB_V_PlusVal of 10 rows", "library", keeping(data, [](Data& d) {
+          keeping(data, [](Column& d) { return VB_V_Quantile(d.x.data(), d.n, 0.3); }));
+  contest("VB_V_PlusVal of 10 rows", "library", keeping(data, [](Column& d) {
             VB_V_PlusVal(d.x.data(), d.n, 0.0, d.exclude.data());
             return d.x[0];
           }));
-  contest("VB_V_PlusVal of 10 rows", "plain loop", keeping(data, [](Data& d) {
+  contest("VB_V_PlusVal of 10 rows", "plain loop", keeping(data, [](Column& d) {
             for (std::size_t i = 0; i < d.x.size(); ++i) d.x[i] += d.exclude[i] == 0 ? 0.0 : 1.0;
             return d.x[0];
           }));
-  const auto extra = std::make_shared<Data>(10);
-  contest("VB_V_GetRanksTiesDbl of 10 rows", "library", keeping(data, [extra](Data& d) {
+  const auto extra = std::make_shared<Column>(10);
+  contest("VB_V_GetRanksTiesDbl of 10 rows", "library", keeping(data, [extra](Column& d) {
             int ties;
             VB_V_GetRanksTiesDbl(d.x.data(), d.n, d.w.data(), extra->x.data(), &ties, extra->w.data());
             return ties;
           }));
-  contest("VB_SortQDbl of 10 rows", "library", keeping(data, [extra](Data& d) {
+  contest("VB_SortQDbl of 10 rows", "library", keeping(data, [extra](Column& d) {
             return VB_SortQDbl(extra->x.data(), d.n, 1, 1, d.n, d.x.data(), extra->w.data(), 1, 0, 0);
           }));
-  contest("VB_V_Quantile of 10 rows", "a copy sorted by std::sort", keeping(data, [](Data& d) {
+  contest("VB_V_Quantile of 10 rows", "a copy sorted by std::sort", keeping(data, [](Column& d) {
             std::vector<double> copy(d.x);
             std::sort(copy.begin(), copy.end());
             return copy[2];

@@ -3,9 +3,8 @@
 #include "stats/vector_sums.h"
 
 #include <Eigen/Core>
-#include <memory>
-#include <vector>
 
+#include "column.h"
 #include "platform/calling.h"
 #include "ratios.h"
 
@@ -16,30 +15,14 @@ double KAV_CALL VB_V_Sum2Dbl(double* iVector, int n);
 
 namespace {
 
-struct Data {
-  explicit Data(int rows) : n(rows), x(static_cast<std::size_t>(rows)), w(x.size()), exclude(x.size()) {
-    for (std::size_t i = 0; i < x.size(); ++i) {
-      x[i] = 2.385 + static_cast<double>((i * 7919) % 1000);
-      w[i] = 0.5 + static_cast<double>(i % 3);
-    }
-    cells = std::make_unique<matrix>(n, 1, x.data(), false, 0, 0);
-    weights = std::make_unique<matrix>(n, 1, w.data(), false, 0, 0);
-  }
-
-  int n;
-  std::vector<double> x, w;
-  std::vector<short> exclude;
-  std::unique_ptr<matrix> cells, weights;
-};
-
-double plainSum(const Data& data) {
+double plainSum(const Column& data) {
   double sum = 0.0;
   for (int i = 0; i < data.n; ++i) sum += data.cells->values[i];
   return sum;
 }
 
 /// The rule of the mean, cell by cell on the fields.
-double plainMean(const Data& data) {
+double plainMean(const Column& data) {
   const matrix& x = *data.cells;
   const matrix& w = *data.weights;
   double sum = 0.0, total = 0.0;
@@ -54,7 +37,7 @@ double plainMean(const Data& data) {
 }
 
 /// The same through the accessors, as a caller would write it first.
-double meanByAccessors(const Data& data) {
+double meanByAccessors(const Column& data) {
   double sum = 0.0, total = 0.0;
   for (int i = 0; i < data.n; ++i) {
     const double weight = data.weights->getElement(i);
@@ -66,41 +49,36 @@ double meanByAccessors(const Data& data) {
   return sum / total;
 }
 
-template <class F>
-std::function<void()> keeping(std::shared_ptr<Data> data, F f) {
-  return [data = std::move(data), f] { benchmark::DoNotOptimize(f(*data)); };
-}
-
 void enterRows(const std::string& rows, int n) {
-  const auto data = std::make_shared<Data>(n);
+  const auto data = std::make_shared<Column>(n);
   const std::string sum = "V_Sum2 of " + rows;
-  contest(sum, "library", keeping(data, [](const Data& d) { return V_Sum2(d.cells.get(), d.n); }));
+  contest(sum, "library", keeping(data, [](const Column& d) { return V_Sum2(d.cells.get(), d.n); }));
   contest(sum, "plain loop", keeping(data, plainSum));
-  contest(sum, "Eigen, order of its own", keeping(data, [](const Data& d) {
+  contest(sum, "Eigen, order of its own", keeping(data, [](const Column& d) {
             return Eigen::Map<const Eigen::VectorXd>(d.cells->values, d.n).sum();
           }));
 
   const std::string mean = "V_Mean of " + rows;
-  contest(mean, "library", keeping(data, [](const Data& d) {
+  contest(mean, "library", keeping(data, [](const Column& d) {
             return V_Mean(d.cells.get(), d.n, d.exclude.data(), d.weights.get());
           }));
   contest(mean, "plain loop on the fields", keeping(data, plainMean));
   contest(mean, "loop through the accessors", keeping(data, meanByAccessors));
-  contest(mean, "Eigen, no missing cells, order of its own", keeping(data, [](const Data& d) {
+  contest(mean, "Eigen, no missing cells, order of its own", keeping(data, [](const Column& d) {
             const Eigen::Map<const Eigen::VectorXd> x(d.cells->values, d.n), w(d.weights->values, d.n);
             return x.dot(w) / w.sum();
           }));
 
   const std::string entry = "VB_V_Mean of " + rows;
   contest(entry, "library",
-          keeping(data, [](Data& d) { return VB_V_Mean(d.x.data(), d.n, d.exclude.data(), d.w.data()); }));
-  contest(entry, "the worker alone", keeping(data, [](const Data& d) {
+          keeping(data, [](Column& d) { return VB_V_Mean(d.x.data(), d.n, d.exclude.data(), d.w.data()); }));
+  contest(entry, "the worker alone", keeping(data, [](const Column& d) {
             return V_Mean(d.cells.get(), d.n, d.exclude.data(), d.weights.get());
           }));
   const std::string sumEntry = "VB_V_Sum2Dbl of " + rows;
-  contest(sumEntry, "library", keeping(data, [](Data& d) { return VB_V_Sum2Dbl(d.x.data(), d.n); }));
+  contest(sumEntry, "library", keeping(data, [](Column& d) { return VB_V_Sum2Dbl(d.x.data(), d.n); }));
   contest(sumEntry, "the worker alone",
-          keeping(data, [](const Data& d) { return V_Sum2(d.cells.get(), d.n); }));
+          keeping(data, [](const Column& d) { return V_Sum2(d.cells.get(), d.n); }));
 }
 
 }  // namespace
