@@ -31,9 +31,10 @@ Work& workOf(const std::string& name) {
   return works().back();
 }
 
-/// Names of benchmarks: positions of work and contestant.
-std::string keyOf(std::size_t work, std::size_t contestant) {
-  return std::to_string(work) + "." + std::to_string(contestant);
+/// Names of benchmarks, as filters see them.
+std::string keyOf(const Work& work, const Contestant& contestant) {
+  std::string key = work.name;
+  return key.append(": ").append(contestant.name);
 }
 
 std::string readable(double seconds) {
@@ -63,10 +64,10 @@ class Medians : public benchmark::BenchmarkReporter {
   }
 
   void store() const {
-    for (std::size_t w = 0; w < works().size(); ++w) {
-      for (std::size_t c = 0; c < works()[w].contestants.size(); ++c) {
-        const auto found = medians_.find(keyOf(w, c));
-        if (found != medians_.end()) works()[w].contestants[c].median = found->second;
+    for (Work& work : works()) {
+      for (Contestant& contestant : work.contestants) {
+        const auto found = medians_.find(keyOf(work, contestant));
+        if (found != medians_.end()) contestant.median = found->second;
       }
     }
   }
@@ -98,8 +99,7 @@ void print() {
 void contest(const std::string& work, const std::string& contestant, std::function<void()> once) {
   Work& entered = workOf(work);
   entered.contestants.push_back({contestant});
-  const auto position = static_cast<std::size_t>(&entered - works().data());
-  benchmark::RegisterBenchmark(keyOf(position, entered.contestants.size() - 1).c_str(),
+  benchmark::RegisterBenchmark(keyOf(entered, entered.contestants.back()).c_str(),
                                [once = std::move(once)](benchmark::State& state) {
                                  for (auto _ : state) once();
                                });

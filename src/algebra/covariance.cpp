@@ -35,11 +35,9 @@ class Cells {
  public:
   Cells(const matrix* a, int n, int p) : values_(a, n, p), flags_(a, n, p) {}
 
-  const double* column(int j) const { return values_.data() + values_.stride() * j; }
-  usable::Present present(int j) const { return {column(j), flags_.data() + flags_.stride() * j}; }
-  const bool* flags(int j) const {
-    return reinterpret_cast<const bool*>(flags_.data() + flags_.stride() * j);
-  }
+  const double* column(int j) const { return values_.column(j); }
+  usable::Present present(int j) const { return {column(j), flags_.column(j)}; }
+  const bool* flags(int j) const { return reinterpret_cast<const bool*>(flags_.column(j)); }
 
  private:
   block::Values values_;
@@ -243,7 +241,7 @@ void toCorrelations(double* c, int p) {
 
 /// Puts a p x q table into a prepared result; cells with the marker come out flagged, holding it.
 void storeFlagging(const double* c, int p, int q, matrix* target) {
-  result::fillInto(target, p, q, [&](int a, int b) { return c[a + std::ptrdiff_t{p} * b]; });
+  result::copyInto(target, p, q, c);
   for (int b = 0; b < q; ++b) {
     for (int a = 0; a < p; ++a) {
       if (isMarker(c[a + std::ptrdiff_t{p} * b])) target->setMissing(a, b, true);
@@ -302,10 +300,12 @@ int M_CovCorrAndMeanStDevVar(matrix*& a, int n, int p, matrix*& result, matrix*&
   }
   if (centre == kTrue || standardize == kTrue) {
     const block::Values cells(a, n, p), centres(means, p), scales(stdevs, p);
-    result::fillInto(a, n, p, [&](int i, int j) {
-      const double x = cells[i + cells.stride() * j] - centres[j];
-      if (standardize != kTrue) return x;
-      return scales[j] > 0.0 ? x / scales[j] : 0.0;
+    result::fillInto(a, n, p, [&](int j) {
+      return [x = cells.column(j), centre = centres[j], sd = scales[j], standardize](int i) {
+        const double d = x[i] - centre;
+        if (standardize != kTrue) return d;
+        return sd > 0.0 ? d / sd : 0.0;
+      };
     });
   }
   return 0;
@@ -347,7 +347,7 @@ void M_CorrMatFromCovMat(const matrix* covariances, int p, matrix*& result) {
   const block::Values cells(covariances, p, p);
   matrix::matCheck(result, p, p, 0.0);
   if (p < 1) return;
-  const auto at = [&](int i, int j) { return cells[i + cells.stride() * j]; };
+  const auto at = [&](int i, int j) { return cells.column(j)[i]; };
   std::vector<double> c;
   for (int j = 0; j < p; ++j) {
     for (int i = 0; i < p; ++i) c.push_back(correlationOf(at(i, j), at(i, i), at(j, j), i == j));
@@ -357,17 +357,17 @@ void M_CorrMatFromCovMat(const matrix* covariances, int p, matrix*& result) {
 
 void M_Inertie_W(const matrix* a, int n, int p, const matrix* weights, const matrix* classes,
                  double whichClass, matrix*& result) {
+  if (!result::hasCellsOrIsPrepared(result, p, p, n)) return;
   const Rows rows(n, nullptr, weights);
   const block::Values cells(a, n, p), classOf(classes, classes == nullptr ? 0 : n);
   matrix::matCheck(result, p, p, 0.0);
-  if (!result::hasCells(n, p)) return;
   std::vector<double> used, factors;
   matrix kept(n, p);
   int count = 0;
   for (std::size_t r = 0; r < rows.row.size(); ++r) {
     const int i = rows.row[r];
     if (classes != nullptr && whichClass != -1.0 && classOf[i] != whichClass) continue;
-    for (int j = 0; j < p; ++j) kept.values[count + std::ptrdiff_t{n} * j] = cells[i + cells.stride() * j];
+    for (int j = 0; j < p; ++j) kept.values[count + std::ptrdiff_t{n} * j] = cells.column(j)[i];
     factors.push_back(rows.weight[r]);
     ++count;
   }
@@ -380,10 +380,10 @@ void M_Inertie_W(const matrix* a, int n, int p, const matrix* weights, const mat
 void M_EuclidDist2(const matrix* a, int n, int p, matrix*& distances, const matrix* weights, short byRows) {
   const int size = byRows != 0 ? n : p;
   const int depth = byRows != 0 ? p : n;
+  if (!result::hasCellsOrIsPrepared(distances, size, size, depth)) return;
   const block::Values cells(a, n, p), w(weights, weights == nullptr ? 0 : depth);
   const std::ptrdiff_t along = byRows != 0 ? 1 : cells.stride(), across = byRows != 0 ? cells.stride() : 1;
   matrix::matCheck(distances, size, size, 0.0);
-  if (!result::hasCells(size, depth)) return;
   result::into(distances, size, size, [&](block::Target& target) {
     for (int j = 0; j < size; ++j) {
       for (int i = 0; i <= j; ++i) {
@@ -392,7 +392,7 @@ void M_EuclidDist2(const matrix* a, int n, int p, matrix*& distances, const matr
           const double d = cells[along * i + across * k] - cells[along * j + across * k];
           sum += (weights == nullptr ? 1.0 : w[k]) * (d * d);
         }
-        target[i + target.stride() * j] = target[j + target.stride() * i] = sum;
+        target.column(j)[i] = target.column(i)[j] = sum;
       }
     }
   });
@@ -400,22 +400,22 @@ void M_EuclidDist2(const matrix* a, int n, int p, matrix*& distances, const matr
 
 void M_TransformSimToDissim(matrix*& s, int p) {
   if (s == nullptr) return;
-  const block::Values cells(s, p, p);
+  const Cells cells(s, p, p);
   std::vector<double> d(addressing::elementsInMemory<double>(p, p));
   for (int j = 0; j < p; ++j) {
     for (int i = 0; i < j; ++i) {
       d[static_cast<std::size_t>(i + std::ptrdiff_t{p} * j)] =
           d[static_cast<std::size_t>(j + std::ptrdiff_t{p} * i)] =
-              cells[(cells.stride() + 1) * i] - cells[i + cells.stride() * j];
+              cells.present(i)(i) && cells.present(j)(i) ? cells.column(i)[i] - cells.column(j)[i] : kMissing;
     }
   }
-  result::fillInto(s, p, p,
-                   [&](int i, int j) { return d[static_cast<std::size_t>(i + std::ptrdiff_t{p} * j)]; });
+  result::copyInto(s, p, p, d.data());
 }
 
 int M_CheckIfSimOrDissim(const matrix* t, int n, int apriori) {
-  const block::Values cells(t, n, n);
-  const auto at = [&](int i, int j) { return cells[i + cells.stride() * j]; };
+  const Cells cells(t, n, n);
+  const auto at = [&](int i, int j) { return cells.column(j)[i]; };
+  if (n >= 1 && !isComplete(cells, n, n)) return -1;
   bool dissimilarities = true;
   bool similarities = true;
   for (int j = 0; j < n; ++j) {
@@ -434,8 +434,8 @@ void M_Symmetrize(matrix* t, int n, int type) {
   result::into(t, n, n, [&](block::Target& cells) {
     for (int j = 0; j < n; ++j) {
       for (int i = 0; i < j; ++i) {
-        double& upper = cells[i + cells.stride() * j];
-        double& lower = cells[j + cells.stride() * i];
+        double& upper = cells.column(j)[i];
+        double& lower = cells.column(i)[j];
         const bool missing = isMarker(upper) || isMarker(lower);
         if (type == 0) upper = lower = missing ? kMissing : (upper + lower) / 2.0;
         if (type == 1) lower = upper;

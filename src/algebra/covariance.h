@@ -5,8 +5,8 @@
 // of columns when it has no flag, a weight other than 0.0 and both cells present: each pair uses rows of its
 // own (pairwise deletion). One pass for each pair, with W the weights so far:
 //
-//     C += (w - w^2 / W) d_b (x_a - m_a),   m_a += (w / W) (x_a - m_a),   m_b += (w / W) d_b,   d_b = x_b -
-//     m_b
+//     d_b = x_b - m_b,   C += (w - w^2 / W) d_b (x_a - m_a)
+//     m_a += (w / W) (x_a - m_a),   m_b += (w / W) d_b
 //
 // A correlation is the covariance by the root of both variances, each over its column's own rows; it is 0.0
 // when their product is at most 1e-12 in absolute value, so for a constant column even on the diagonal, which
@@ -17,8 +17,8 @@
 #include "core/matrix.h"
 #include "platform/export.h"
 
-/// Covariances or correlations of the columns (prepared, p x p). Without a missing cell in the rows that take
-/// part all pairs share their means and the sums are one product of tables, with the same bits.
+/// Covariances or correlations of the columns (prepared, p x p). In a table without a missing cell all pairs
+/// share their means and the sums are one product of tables, with the same bits.
 ///
 /// @return 0; a pair without a row comes out flagged, holding the marker
 KAV_API int M_CovCorr(const matrix* a, int n, int p, matrix*& result, short correlation,
@@ -57,16 +57,16 @@ KAV_API void M_Inertie_W(const matrix* a, int n, int p, const matrix* weights, c
 KAV_API void M_EuclidDist2(const matrix* a, int n, int p, matrix*& distances, const matrix* weights,
                            short byRows);
 
-/// Similarities to dissimilarities in place: s(i,i) - s(i,j) for i < j, mirrored, the diagonal 0.0.
+/// Similarities to dissimilarities in place: s(i,i) - s(i,j) for i < j, mirrored, the diagonal 0.0. Where one
+/// of the two is missing both cells become the marker.
 KAV_API void M_TransformSimToDissim(matrix*& s, int p);
 
 /// @return 0 for dissimilarities (diagonal 0, others at least 0), 1 for similarities (the diagonal is the
-/// largest of its
-///         row and column), apriori when both fit, -1 when neither does
+///         largest of its row and column), apriori when both fit, -1 when neither does or a cell is missing
 KAV_API int M_CheckIfSimOrDissim(const matrix* t, int n, int apriori);
 
 /// Makes a table symmetric in place.
 ///
 /// @param type  0 the mean of both triangles (the marker where one of them is), 1 upper to lower, 2 lower to
-/// upper; others change nothing
+///              upper; others change nothing
 KAV_API void M_Symmetrize(matrix* t, int n, int type);

@@ -37,7 +37,7 @@ inline void multiply(const View& a, const View& b, int rows, int columns, int de
 inline void multiplySymmetric(const View& a, int size, int depth, block::Target& c, const Scale& scale = {}) {
   multiply(a, a.transposed(), size, size, depth, c.data(), c.stride(), scale, true);
   for (int j = 0; j < size; ++j) {
-    for (int i = j + 1; i < size; ++i) c[i + c.stride() * j] = c[j + c.stride() * i];
+    for (int i = j + 1; i < size; ++i) c.column(j)[i] = c.column(i)[j];
   }
 }
 

@@ -1,11 +1,9 @@
 #include "algebra/elementwise.h"
 
-#include <emmintrin.h>
-
 #include <algorithm>
 
 #include "algebra/result_blocks.h"
-#include "core/scratch.h"
+#include "kernels/kernels.h"
 
 using result::fill;
 using result::fillInto;
@@ -20,19 +18,16 @@ constexpr int kRowsAtOnce = 1024;
 /// Columns whose sums are built side by side: their chains of additions overlap.
 constexpr int kColumnsAtOnce = 8;
 
-/// Cells that are transposed at a time, in either direction: those of a cache line.
-constexpr int kTransposed = 8;
-
 template <class Of>
 void sumRows(const matrix* a, int n, int p, matrix* w, Of of) {
   const block::Values cells(a, n, p);
   into(w, n, 1, [&](block::Target& sums) {
-    for (int begin = 0; begin < n; begin += kRowsAtOnce) {
-      const int end = begin + std::min(kRowsAtOnce, n - begin);
-      for (int i = begin; i < end; ++i) sums[i] = 0.0;
+    for (std::ptrdiff_t begin = 0; begin < n; begin += kRowsAtOnce) {
+      const std::ptrdiff_t end = std::min(begin + kRowsAtOnce, std::ptrdiff_t{n});
+      for (std::ptrdiff_t i = begin; i < end; ++i) sums[i] = 0.0;
       for (int j = 0; j < p; ++j) {
-        const double* column = cells.data() + cells.stride() * j;
-        for (int i = begin; i < end; ++i) sums[i] += of(column[i]);
+        const double* column = cells.column(j);
+        for (std::ptrdiff_t i = begin; i < end; ++i) sums[i] += of(column[i]);
       }
     }
   });
@@ -54,42 +49,16 @@ void sumColumns(const matrix* a, int n, int p, matrix* w, Of of) {
   into(w, p, 1, [&](block::Target& sums) {
     int j = 0;
     for (; p - j >= kColumnsAtOnce; j += kColumnsAtOnce) {
-      sumColumns<kColumnsAtOnce>(cells.data() + cells.stride() * j, cells.stride(), n, sums.data() + j, of);
+      sumColumns<kColumnsAtOnce>(cells.column(j), cells.stride(), n, sums.data() + j, of);
     }
     for (; j < p; ++j) {
-      sumColumns<1>(cells.data() + cells.stride() * j, cells.stride(), n, sums.data() + j, of);
+      sumColumns<1>(cells.column(j), cells.stride(), n, sums.data() + j, of);
     }
   });
 }
 
-/// to(j, i) = s from(i, j) for 8 x 8 cells: two by two in registers, whole cache lines on both sides.
-void transposeTile(const double* from, std::ptrdiff_t stride, __m128d s, double* to,
-                   std::ptrdiff_t toStride) {
-  for (int i = 0; i < kTransposed; i += 2) {
-    for (int j = 0; j < kTransposed; j += 2) {
-      const __m128d a = _mm_mul_pd(s, _mm_loadu_pd(from + i + stride * j));
-      const __m128d b = _mm_mul_pd(s, _mm_loadu_pd(from + i + stride * (j + 1)));
-      _mm_storeu_pd(to + j + toStride * i, _mm_unpacklo_pd(a, b));
-      _mm_storeu_pd(to + j + toStride * (i + 1), _mm_unpackhi_pd(a, b));
-    }
-  }
-}
-
 void transpose(const block::Values& from, int n, int p, double s, double* to, std::ptrdiff_t stride) {
-  for (int j0 = 0; j0 < p; j0 += kTransposed) {
-    for (int i0 = 0; i0 < n; i0 += kTransposed) {
-      const int columns = std::min(kTransposed, p - j0), rows = std::min(kTransposed, n - i0);
-      const double* cells = from.data() + i0 + from.stride() * j0;
-      double* target = to + j0 + stride * i0;
-      if (columns == kTransposed && rows == kTransposed) {
-        transposeTile(cells, from.stride(), _mm_set1_pd(s), target, stride);
-        continue;
-      }
-      for (int i = 0; i < rows; ++i) {
-        for (int j = 0; j < columns; ++j) target[j + stride * i] = s * cells[i + from.stride() * j];
-      }
-    }
-  }
+  kernels::best().transpose({from.data(), from.stride(), n, p, s, to, stride});
 }
 
 /// Extremes of a column by a rule that says which cell replaces which.
@@ -99,8 +68,8 @@ void columnExtremes(const matrix* a, int n, int p, matrix* w, Replaces replaces)
   const block::Values cells(a, n, p);
   into(w, p, 1, [&](block::Target& extremes) {
     for (int j = 0; j < p; ++j) {
-      const double* column = cells.data() + cells.stride() * j;
-      int i = 0;
+      const double* column = cells.column(j);
+      std::ptrdiff_t i = 0;
       while (i < n && isMarker(column[i])) ++i;
       double extreme = i < n ? column[i] : kMissing;
       for (++i; i < n; ++i) {
@@ -115,7 +84,7 @@ void columnExtremes(const matrix* a, int n, int p, matrix* w, Replaces replaces)
 
 void M_ScalarsA(const matrix* a, int n, int p, double s, matrix* c) {
   const block::Values cells(a, n, p);
-  fillInto(c, n, p, [&](int i, int j) { return s * cells[i + cells.stride() * j]; });
+  fillInto(c, n, p, [&](int j) { return [x = cells.column(j), s](int i) { return s * x[i]; }; });
 }
 
 void M_ScalarsA2(matrix*& a, int n, int p, double s) {
@@ -134,20 +103,24 @@ void M_ScalarsTrA(const matrix* a, int n, int p, double s, matrix*& c) {
 void M_APlusVal(const matrix* a, int n, int p, double s, matrix*& c) {
   prepared(c, n, p, 1, [&](block::Target& target) {
     const block::Values cells(a, n, p);
-    fill(target, n, p, [&](int i, int j) { return cells[i + cells.stride() * j] + s; });
+    fill(target, n, p, [&](int j) { return [x = cells.column(j), s](int i) { return x[i] + s; }; });
   });
 }
 
 void M_Sums1As2B(const matrix* a, int n, int p, const matrix* b, double s1, double s2, matrix*& c) {
   prepared(c, n, p, 1, [&](block::Target& target) {
     const block::Values x(a, n, p), y(b, n, p);
-    fill(target, n, p, [&](int i, int j) { return s1 * x[i + x.stride() * j] + s2 * y[i + y.stride() * j]; });
+    fill(target, n, p, [&](int j) {
+      return [=, left = x.column(j), right = y.column(j)](int i) { return s1 * left[i] + s2 * right[i]; };
+    });
   });
 }
 
 void M_ProductByElement(const matrix* a, int n, int p, const matrix* b, matrix* c) {
   const block::Values x(a, n, p), y(b, n, p);
-  fillInto(c, n, p, [&](int i, int j) { return x[i + x.stride() * j] * y[i + y.stride() * j]; });
+  fillInto(c, n, p, [&](int j) {
+    return [left = x.column(j), right = y.column(j)](int i) { return left[i] * right[i]; };
+  });
 }
 
 void M_Square(matrix* a, int n, int p) {
@@ -216,8 +189,8 @@ void M_MinMax(const matrix* a, int n, int p, matrix* min, matrix* max, const sho
     double low = kMissing;
     double high = kMissing;
     for (int i = 0; i < n; ++i) {
-      const double x = cells[i + cells.stride() * j];
-      const bool present = !flags[i + flags.stride() * j] && !isMarker(x);
+      const double x = cells.column(j)[i];
+      const bool present = !flags.column(j)[i] && !isMarker(x);
       const bool used = option == kTrue    ? present
                         : option == kFalse ? exclude != nullptr && exclude[i] == 0
                                            : false;

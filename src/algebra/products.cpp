@@ -20,7 +20,7 @@ namespace {
 std::unique_ptr<matrix> inverseOf(const matrix* b, int n, double tolerance) {
   const block::Values cells(b, n, n);
   matrix square(n, n);
-  result::fillInto(&square, n, n, [&](int i, int j) { return cells[i + cells.stride() * j]; });
+  result::fillInto(&square, n, n, [&](int j) { return [x = cells.column(j)](int i) { return x[i]; }; });
   auto inverse = std::make_unique<matrix>(n, n, 0.0);
   short singular = kFalse;
   square.inverse1(inverse.get(), singular, tolerance);
@@ -30,7 +30,7 @@ std::unique_ptr<matrix> inverseOf(const matrix* b, int n, double tolerance) {
 /// The diagonal of the leading block of a table, alone.
 std::vector<double> diagonalOf(const matrix* d, int size) {
   std::vector<double> diagonal;
-  for (int k = 1; k <= size; ++k) diagonal.push_back(d == nullptr ? kOutside : d->vbget(k, k));
+  for (int k = 0; k < size; ++k) diagonal.push_back(d == nullptr ? kOutside : d->getElement(k, k));
   return diagonal;
 }
 
@@ -65,9 +65,9 @@ void crossColumns(const matrix* a, int n, int p, const matrix* b, int q, matrix*
   into(c, n, result::productColumns(p, q), [&](block::Target& target) {
     double* column = target.data();
     for (int k = 0; k < p; ++k) {
-      const double* x = left.data() + left.stride() * k;
+      const double* x = left.column(k);
       for (int l = 0; l < q; ++l, column += target.stride()) {
-        const double* y = right.data() + right.stride() * l;
+        const double* y = right.column(l);
         for (int i = 0; i < n; ++i) column[i] = of(x[i], y[i]);
       }
     }
@@ -122,13 +122,13 @@ int M_ProductABMissing(const matrix* a, int n, int p, const matrix* b, int q, ma
   const block::Flags leftFlags(a, n, p), rightFlags(b, p, q);
   const auto missingRow = [&](int i) {
     for (int k = 0; k < p; ++k) {
-      if (leftFlags[i + leftFlags.stride() * k] || isMarker(left[i + left.stride() * k])) return true;
+      if (leftFlags.column(k)[i] || isMarker(left.column(k)[i])) return true;
     }
     return false;
   };
   const auto missingColumn = [&](int j) {
     for (int k = 0; k < p; ++k) {
-      if (rightFlags[k + rightFlags.stride() * j] || isMarker(right[k + right.stride() * j])) return true;
+      if (rightFlags.column(j)[k] || isMarker(right.column(j)[k])) return true;
     }
     return false;
   };
@@ -204,8 +204,8 @@ void M_ProductADiag(const matrix* a, int n, int p, const matrix* d, matrix*& c) 
   prepared(c, n, p, 1, [&](block::Target& target) {
     const block::Values cells(a, n, p);
     const std::vector<double> diagonal = diagonalOf(d, p);
-    result::fill(target, n, p, [&](int i, int j) {
-      return cells[i + cells.stride() * j] * diagonal[static_cast<std::size_t>(j)];
+    result::fill(target, n, p, [&](int j) {
+      return [x = cells.column(j), d = diagonal[static_cast<std::size_t>(j)]](int i) { return x[i] * d; };
     });
   });
 }
@@ -214,43 +214,55 @@ void M_ProductTrADiag(const matrix* a, int n, int p, const matrix* d, matrix*& c
   prepared(c, p, n, 1, [&](block::Target& target) {
     const block::Values cells(a, n, p);
     const std::vector<double> diagonal = diagonalOf(d, n);
-    result::fill(target, p, n, [&](int i, int j) {
-      return cells[j + cells.stride() * i] * diagonal[static_cast<std::size_t>(j)];
+    result::fill(target, p, n, [&](int j) {
+      return [&cells, j, d = diagonal[static_cast<std::size_t>(j)]](int i) { return cells.column(i)[j] * d; };
     });
   });
 }
 
 void M_ProductADiagV(const matrix* a, int n, int p, const matrix* v, matrix* c) {
+  if (!result::hasCells(n, p)) return;
   const block::Values cells(a, n, p), factors(v, p);
-  result::fillInto(c, n, p, [&](int i, int j) { return cells[i + cells.stride() * j] * factors[j]; });
+  result::fillInto(c, n, p, [&](int j) {
+    return [x = cells.column(j), factor = factors[j]](int i) { return x[i] * factor; };
+  });
 }
 
 void M_ProductDiagVA(const matrix* v, int n, const matrix* a, int p, matrix* c) {
+  if (!result::hasCells(n, p)) return;
   const block::Values cells(a, n, p), factors(v, n);
-  result::fillInto(c, n, p, [&](int i, int j) { return factors[i] * cells[i + cells.stride() * j]; });
+  result::fillInto(c, n, p, [&](int j) {
+    return [x = cells.column(j), factor = factors.data()](int i) { return factor[i] * x[i]; };
+  });
 }
 
 void M_ProductDiagV1ADiagV2(const matrix* x, int n, const matrix* a, int p, const matrix* y, matrix* c) {
+  if (!result::hasCells(n, p)) return;
   const block::Values cells(a, n, p), left(x, n), right(y, p);
-  result::fillInto(c, n, p, [&](int i, int j) { return left[i] * cells[i + cells.stride() * j] * right[j]; });
+  result::fillInto(c, n, p, [&](int j) {
+    return
+        [x = cells.column(j), of = left.data(), factor = right[j]](int i) { return of[i] * x[i] * factor; };
+  });
 }
 
 void M_ProductABTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
+  if (!result::hasCellsOrIsPrepared(c, n, n, p)) return;
   const block::Values cells(a, n, p), middle(b, p, p);
   sandwich(viewOf(cells), viewOf(middle), n, p, c);
 }
 
 void M_ProductTrABA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
+  if (!result::hasCellsOrIsPrepared(c, p, p, n)) return;
   const block::Values cells(a, n, p), middle(b, n, n);
   sandwich(viewOf(cells).transposed(), viewOf(middle), p, n, c);
 }
 
 void M_ProductAinvBTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
-  M_ProductABTrA(a, n, p, inverseOf(b, p, kZero).get(), c);
+  if (result::hasCellsOrIsPrepared(c, n, n, p)) M_ProductABTrA(a, n, p, inverseOf(b, p, kZero).get(), c);
 }
 
 void M_ProductTrAinvBA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
-  M_ProductTrABA(a, n, p, inverseOf(b, n, kEpsilon).get(), c);
+  if (result::hasCellsOrIsPrepared(c, p, p, n)) M_ProductTrABA(a, n, p, inverseOf(b, n, kEpsilon).get(), c);
 }
 
 int M_ProductBV(const matrix* b, int n, int p, const matrix* v, matrix* w) {
@@ -282,8 +294,8 @@ double M_FrobeniusNorm(const matrix* a, int n, int p, const matrix* b) {
   const block::Values left(a, n, p), right(b, n, p);
   double trace = 0.0;
   for (int j = 0; j < p && n >= 1; ++j) {
-    const double* x = left.data() + left.stride() * j;
-    const double* y = right.data() + right.stride() * j;
+    const double* x = left.column(j);
+    const double* y = right.column(j);
     double sum = 0.0;
     for (int i = 0; i < n; ++i) sum += x[i] * y[i];
     trace += sum;
@@ -310,7 +322,7 @@ void M_ProductDesignAB2(matrix*& a, int n, int* p, const matrix* b, int q, int m
   block::Target sums(frequencies, columns);
   into(a, n, columns, [&](block::Target& table) {
     for (int j = 0; j < columns; ++j) {
-      sums[j] = divideByWeights(table.data() + table.stride() * j, rowWeights.data(), n);
+      sums[j] = divideByWeights(table.column(j), rowWeights.data(), n);
     }
   });
   sums.store();

@@ -6,8 +6,7 @@
 // ascending order of the summed index; a term of three factors is (a * d) * b.
 //
 // Results come in three kinds:
-//   prepared   a reference to a pointer: a container of exactly the result's shape is refilled with 0.0 and
-//   kept,
+//   prepared   a reference to a pointer: a container of exactly the result's shape is refilled with 0.0,
 //              otherwise the pointer receives a new one, which belongs to the caller
 //   caller's   a container with at least the result's cells; those outside are dropped
 //   in place   the first operand

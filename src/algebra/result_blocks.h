@@ -1,12 +1,12 @@
 // How the algebra's workers make and fill their results. Internal.
 #pragma once
 
-#include <cstring>
 #include <limits>
 #include <new>
 
 #include "core/block.h"
 #include "core/results.h"
+#include "core/screening.h"
 
 namespace result {
 
@@ -28,7 +28,7 @@ void into(matrix* c, int rows, int columns, Compute compute) {
 /// written would show nowhere.
 inline bool isWhole(const matrix* c, int rows, int columns) {
   return addressing::designatesContainer(c) && c->nX == rows && c->pX == columns &&
-         std::memchr(c->missing, 1, static_cast<std::size_t>(addressing::cellCount(*c))) == nullptr;
+         !screening::anyFlagged(c->missing, static_cast<std::ptrdiff_t>(addressing::cellCount(*c)));
 }
 
 /// Prepares c as rows x columns of 0.0, and lets compute(target) fill it when all extents are at least 1.
@@ -39,20 +39,35 @@ void prepared(matrix*& c, int rows, int columns, int depth, Compute compute) {
   if (computed) into(c, rows, columns, compute);
 }
 
-/// target(i, j) = of(i, j).
-template <class Of>
-void fill(block::Target& target, int rows, int columns, Of of) {
+/// Whether there is anything to compute. If not, c is prepared as rows x columns of 0.0.
+inline bool hasCellsOrIsPrepared(matrix*& c, int rows, int columns, int depth) {
+  if (hasCells(rows, columns, depth)) return true;
+  matrix::matCheck(c, rows, columns, 0.0);
+  return false;
+}
+
+/// target(i, j) = columnOf(j)(i). What a column needs is looked up once, by value, so that the loop over its
+/// rows becomes one over vectors.
+template <class ColumnOf>
+void fill(block::Target& target, int rows, int columns, ColumnOf columnOf) {
   for (int j = 0; j < columns; ++j) {
-    double* column = target.data() + target.stride() * j;
-    for (int i = 0; i < rows; ++i) column[i] = of(i, j);
+    double* column = target.column(j);
+    const auto of = columnOf(j);
+    for (int i = 0; i < rows; ++i) column[i] = of(i);
   }
 }
 
 /// The same into a caller's container.
-template <class Of>
-void fillInto(matrix* c, int rows, int columns, Of of) {
+template <class ColumnOf>
+void fillInto(matrix* c, int rows, int columns, ColumnOf columnOf) {
   if (!hasCells(rows, columns)) return;
-  into(c, rows, columns, [&](block::Target& target) { fill(target, rows, columns, of); });
+  into(c, rows, columns, [&](block::Target& target) { fill(target, rows, columns, columnOf); });
+}
+
+/// Copies a table, columns `rows` cells apart, into a caller's container.
+inline void copyInto(matrix* c, int rows, int columns, const double* cells) {
+  fillInto(c, rows, columns,
+           [=](int j) { return [x = cells + std::ptrdiff_t{rows} * j](int i) { return x[i]; }; });
 }
 
 /// Puts a table in place of a worker's first operand, which keeps its container when the shape fits.

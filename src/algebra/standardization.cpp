@@ -50,11 +50,11 @@ class Columns {
         unweighted_(weights == nullptr),
         weights_(weights, weights == nullptr ? 0 : n) {}
 
-  const double* column(int j) const { return cells_.data() + cells_.stride() * j; }
+  const double* column(int j) const { return cells_.column(j); }
 
   /// @param missingMode  as for M_MeanStDev
   Moments momentsOf(int j, short missingMode) const {
-    const usable::Present present(column(j), flags_.data() + flags_.stride() * j);
+    const usable::Present present(column(j), flags_.column(j));
     if (missingMode == kTrue) return momentsOf(j, present);
     return missingMode == kFalse ? momentsOf(j, usable::NotExcludedIfGiven(rowFlags_)) : Moments();
   }
@@ -89,7 +89,7 @@ class Columns {
 
   /// Sum of the squares of the cells that are present, in rows that take part.
   double squaresOf(int j) const {
-    const usable::Present present(column(j), flags_.data() + flags_.stride() * j);
+    const usable::Present present(column(j), flags_.column(j));
     double sum = 0.0;
     forEachRow(usable::NotExcludedIfGiven(rowFlags_), [&](int i, double) {
       if (present(i)) sum += column(j)[i] * column(j)[i];
@@ -135,6 +135,7 @@ void put(matrix* vector, int j, const Statistic& x) {
 int statistics(const matrix* a, int n, int p, matrix* means, matrix* stdevs, matrix* variances,
                const short* rowFlags, const matrix* weights, const Denominator& denominator,
                short missingMode) {
+  if (p < 1) return 0;
   const Columns columns(a, n, p, rowFlags, weights);
   const std::vector<Statistics> all =
       missingMode == kFalse ? columns.statisticsOfAll(p, denominator) : std::vector<Statistics>();
@@ -157,13 +158,18 @@ template <class Of>
 void transform(const matrix* a, int n, int p, const matrix* means, const matrix* stdevs, matrix* target,
                Of of) {
   const block::Values cells(a, n, p), centres(means, p), scales(stdevs, p);
-  result::fillInto(target, n, p,
-                   [&](int i, int j) { return of(cells[i + cells.stride() * j], centres[j], scales[j]); });
+  result::fillInto(target, n, p, [&](int j) {
+    return [of, x = cells.column(j), centre = centres[j], scale = scales[j]](int i) {
+      return of(x[i], centre, scale);
+    };
+  });
 }
 
-double centred(double x, double mean, double) { return x - mean; }
-double reduced(double x, double, double sd) { return sd > 0.0 ? x / sd : 0.0; }
-double standardized(double x, double mean, double sd) { return sd > 0.0 ? (x - mean) / sd : 0.0; }
+constexpr auto centred = [](double x, double mean, double) { return x - mean; };
+constexpr auto reduced = [](double x, double, double sd) { return sd > 0.0 ? x / sd : 0.0; };
+constexpr auto standardized = [](double x, double mean, double sd) {
+  return sd > 0.0 ? (x - mean) / sd : 0.0;
+};
 
 /// The columns transformed by their own statistics.
 template <class Of>
@@ -199,14 +205,14 @@ void columnByColumn(const matrix* a, int n, int p, const short* flags, matrix* t
   matrix whole(n, p, 0.0);
   for (int j = 0; j < p; ++j) {
     matrix vector(n, 1);
-    std::copy_n(cells.data() + cells.stride() * j, n, vector.values);
+    std::copy_n(cells.column(j), n, vector.values);
     for (int i = 0; i < n; ++i) {
-      if (missing[i + missing.stride() * j]) vector.values[i] = kMissing;
+      if (missing.column(j)[i]) vector.values[i] = kMissing;
     }
     byVector(&vector, flags == nullptr ? none.data() : flags + std::ptrdiff_t{n} * j);
     std::copy_n(vector.values, n, whole.values + std::ptrdiff_t{n} * j);
   }
-  result::fillInto(target, n, p, [&](int i, int j) { return whole.values[i + std::ptrdiff_t{n} * j]; });
+  result::copyInto(target, n, p, whole.values);
 }
 
 }  // namespace
@@ -240,6 +246,7 @@ void M_MeanStDevVarOneInMat(const matrix* a, int n, int column, double* mean, do
 
 int M_Mean(const matrix* a, int n, int p, matrix*& means, const short* rowFlags, const matrix* weights) {
   matrix::matCheck(means, p, 1, 0.0);
+  if (p < 1) return 0;
   const Columns columns(a, n, p, rowFlags, weights);
   for (int j = 0; j < p; ++j) means->setElement(j, columns.meanOf(j));
   return 0;
@@ -306,13 +313,16 @@ int M_StandardizeKnownMeansStDev(const matrix* a, int n, int p, const matrix* me
   const usable::NotExcludedIfGiven used(rowFlags);
   for (int j = 0; j < p; ++j) variances->setElement(j, scales[j] * scales[j]);
   prepare(out, n, p);
-  result::fillInto(out, n, p, [&](int i, int j) {
-    const double x = cells[i + cells.stride() * j];
-    return used(i) ? standardized(x, centres[j], scales[j]) : x;
+  result::fillInto(out, n, p, [&](int j) {
+    const usable::Present present(cells.column(j), missing.column(j));
+    return [=, centre = centres[j], scale = scales[j]](int i) {
+      return used(i) && present(i) ? standardized(present.x[i], centre, scale) : present.x[i];
+    };
   });
   for (int j = 0; j < p; ++j) {
+    const usable::Present present(cells.column(j), missing.column(j));
     for (int i = 0; i < n; ++i) {
-      if (missing[i + missing.stride() * j]) out->setMissing(i, j, true);
+      if (!present(i)) out->setMissing(i, j, true);
     }
   }
   return 0;
@@ -321,6 +331,7 @@ int M_StandardizeKnownMeansStDev(const matrix* a, int n, int p, const matrix* me
 void M_Normalize(matrix*& a, int n, int p, matrix*& norms, const short* rowFlags, const matrix* weights,
                  short, short) {
   matrix::matCheck(norms, p, 1, 0.0);
+  if (p < 1) return;
   const Columns columns(a, n, p, rowFlags, weights);
   matrix divisors(p, 1, 1.0);
   for (int j = 0; j < p; ++j) {
@@ -342,6 +353,7 @@ void M_NormalizeMatrix(matrix*& first, int n1, int p, matrix*& second, int n2, m
 void M_StandardizeByVect(const matrix* a, int n, int p, const short* flags, const matrix* weights,
                          short unbiased, matrix*& out) {
   prepare(out, n, p);
+  if (!result::hasCells(n, p)) return;
   const matrix ones(n, 1, 1.0);
   columnByColumn(a, n, p, flags, out, [&](matrix* vector, const short* exclude) {
     V_Standardize2(vector, n, exclude, weights == nullptr ? &ones : weights, unbiased);

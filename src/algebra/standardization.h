@@ -6,9 +6,10 @@
 // n, null excludes nothing. Statistics are prepared as p x 1 (matCheck, 0.0); where one cannot be computed
 // its cell is flagged.
 //
-// What is transformed goes to `out`, a container with at least n x p cells (a null pointer receives a new n x
-// p one), or stays in the first operand. Flagged cells of the target keep what they hold. A column whose
-// deviation is not above 0.0, or missing, becomes 0.0 wherever it would be divided by it.
+// What is transformed goes to `out`, a container with at least n x p cells (a null pointer receives a new
+// one), or stays in the first operand; all cells are read before one is written. Flagged cells of the target
+// keep what they hold. A column whose deviation is not above 0.0, or missing, becomes 0.0 wherever it would
+// be divided by it.
 #pragma once
 
 #include "core/matrix.h"
@@ -19,7 +20,7 @@
 /// @param stdevs       null on entry: not wanted
 /// @param rowFlags     a row with a flag takes no part
 /// @param missingMode  0 as said; -1 leaves out missing cells instead, column by column; any other value
-/// every row
+///                     leaves out all rows
 /// @return 0; a column without a used row has both flagged, one with a denominator not above 0 its deviation
 KAV_API int M_MeanStDev(const matrix* a, int n, int p, matrix*& means, matrix*& stdevs, const short* rowFlags,
                         const matrix* weights, short unbiased, short frequencyWeights, short missingMode);
@@ -55,14 +56,13 @@ KAV_API void M_StandardizeW2(matrix*& a, int n, int p, const matrix* weights, sh
 KAV_API void M_StandardizeW(const matrix* a, int n, int p, const matrix* weights, short unbiased,
                             short frequencyWeights, matrix*& out);
 
-/// (x - mean) / sd of every row, by statistics from which rows with a flag are left out; all three handed
-/// out.
+/// (x - mean) / sd of every row, by statistics from which rows with a flag are left out; these come out too.
 KAV_API void M_Standardize(const matrix* a, int n, int p, matrix*& out, matrix*& means, matrix*& stdevs,
                            matrix*& variances, const short* rowFlags, const matrix* weights, short unbiased,
                            short frequencyWeights);
 
-/// (x - mean) / sd by given vectors of p cells; a deviation not above 0.0 gives 0.0. Rows with a flag keep x,
-/// missing cells come out flagged.
+/// (x - mean) / sd by given vectors of p cells; a deviation not above 0.0 gives 0.0. Rows with a flag and
+/// missing cells keep x, the latter come out flagged.
 ///
 /// @param variances  the squares of the deviations
 /// @return 0

@@ -4,10 +4,11 @@
 // On the way in a required array that is null although it should have cells ends the call with the entry's
 // failure value; an Optional one becomes a null container. On the way out nothing is written until the worker
 // has returned and everything that can still fail has been done: store() first prepares all results, then
-// writes them.
+// writes them. A worker that cannot fail once it writes may do so Directly.
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <utility>
@@ -46,8 +47,31 @@ class InTable {
 
   operator const matrix*() const { return &table_; }
 
+  /// Whether the worker reads any of the given cells of a macro's array.
+  bool reads(const double* array, std::int64_t cells) const {
+    const std::less<> before;
+    return before(array, table_.values + addressing::cellCount(table_)) &&
+           before(table_.values, array + cells);
+  }
+
  private:
   LocalMatrix table_;
+};
+
+/// Operands of a worker that writes every cell of its only result, and does nothing that can fail once it has
+/// begun. It may write to the macro's array itself, unless it reads from there: of a table that is no more
+/// work than a copy, fresh memory and the copy would be most of the cost.
+class Directly {
+ public:
+  explicit Directly(const InTable& a) : operands_{&a, &a} {}
+  Directly(const InTable& a, const InTable& b) : operands_{&a, &b} {}
+
+  bool readFrom(const double* array, std::int64_t cells) const {
+    return operands_[0]->reads(array, cells) || operands_[1]->reads(array, cells);
+  }
+
+ private:
+  const InTable* operands_[2];
 };
 
 /// A vector of doubles, read only.
@@ -113,6 +137,16 @@ class OutArray {
   /// The worker sees a container of that shape.
   OutArray(Element* array, int n, int p) : array_(array), given_(std::in_place, n, p), result_(&*given_) {}
 
+  /// The same; it may be the array itself.
+  OutArray(Element* array, int n, int p, const Directly& operands) : array_(array) {
+    if (operands.readFrom(array, addressing::cellCount(n, p))) {
+      given_.emplace(n, p);
+    } else {
+      given_.emplace(n, p, required(array, n, p), InPlace());
+    }
+    result_ = &*given_;
+  }
+
   OutArray(const OutArray&) = delete;
   ~OutArray() {
     if (!given_ || result_ != &*given_) delete result_;
@@ -124,7 +158,7 @@ class OutArray {
     if (result_ != nullptr) required(array_, result_->nX, result_->pX);
   }
   void write() const noexcept {
-    if (result_ != nullptr) result_->copyMatTo(array_);
+    if (result_ != nullptr && !isArray(result_->values)) result_->copyMatTo(array_);
   }
 
  protected:
@@ -134,6 +168,8 @@ class OutArray {
         result_(&*given_) {}
 
  private:
+  bool isArray(const void* cells) const { return cells == array_; }
+
   Element* array_;
   std::optional<LocalTarget> given_;
   matrix* result_ = nullptr;

@@ -71,7 +71,7 @@ int entries::VB_M_CheckIfSimOrDissim(double* t, int n, int iApriori) {
 }
 
 void entries::VB_M_TransformSimToDissim(double* t, int n) {
-  InOutTable table(t, n, n);
+  InOutTable table(t, n, n, Cells::KeepAll);
   M_TransformSimToDissim(table, n);
   store(table);
 }

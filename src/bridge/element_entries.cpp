@@ -8,7 +8,7 @@ using namespace bridge;
 
 void entries::VB_M_ScalarsA(double* iAMat, int n, int p, double s, double* osAMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable c(osAMat, n, p);
+  OutTable c(osAMat, n, p, Directly(a));
   M_ScalarsA(a, n, p, s, c);
   store(c);
 }
@@ -21,14 +21,14 @@ void entries::VB_M_ScalarsA2(double* iAMat, int n, int p, double s) {
 
 void entries::VB_M_ScalarsTrA(double* iAMat, int n, int p, double s, double* osTrAMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable c(osTrAMat, p, n);
+  OutTable c(osTrAMat, p, n, Directly(a));
   M_ScalarsTrA(a, n, p, s, c);
   store(c);
 }
 
 void entries::VB_M_APlusVal(double* iAMat, int n, int p, double ival, double* oAPlusVal) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable c(oAPlusVal, n, p);
+  OutTable c(oAPlusVal, n, p, Directly(a));
   M_APlusVal(a, n, p, ival, c);
   store(c);
 }
@@ -37,7 +37,7 @@ void entries::VB_M_Sums1As2B(double* iAMat, int n, int p, double* iBMat, double 
                              double* oCMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
   const InTable b(iBMat, n, p, Cells::KeepAll);
-  OutTable c(oCMat, n, p);
+  OutTable c(oCMat, n, p, Directly(a, b));
   M_Sums1As2B(a, n, p, b, s1, S2, c);
   store(c);
 }
@@ -50,7 +50,7 @@ void entries::VB_M_Square(double* ioMat, int n, int p) {
 
 int entries::VB_M_Transpose(double* iAMat, int n, int p, double* oTransMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable c(oTransMat, p, n);
+  OutTable c(oTransMat, p, n, Directly(a));
   const int status = M_Transpose(a, n, p, c);
   store(c);
   return status;
@@ -114,7 +114,7 @@ void entries::VB_M_MinMax(double* iMat, int n, int p, double* VMin, double* VMax
                           VARIANT_BOOL MissingPerCol) {
   const InTable a(iMat, n, p);
   OutTable min(VMin, p, 1), max(VMax, p, 1);
-  M_MinMax(a, n, p, min, max, iMissing, MissingPerCol);
+  M_MinMax(a, n, p, min, max, MissingPerCol == kFalse ? required(iMissing, n, 1) : iMissing, MissingPerCol);
   store(min, max);
 }
 

@@ -10,11 +10,11 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <vector>
 
 #include "core/addressing.h"
 #include "core/matrix.h"
+#include "core/screening.h"
 
 namespace block {
 
@@ -32,6 +32,8 @@ class Reader {
   Reader(const Reader&) = delete;
 
   std::ptrdiff_t stride() const { return stride_; }
+  const T* data() const { return cells_; }
+  const T* column(std::ptrdiff_t j) const { return cells_ + stride_ * j; }
 
  protected:
   /// @param array  the container's array; looked at only inside the container
@@ -69,7 +71,6 @@ class Values : public Reader<double> {
  public:
   Values(const matrix* m, int n, int p = 1) : Reader(m, m == nullptr ? nullptr : m->values, n, p, kOutside) {}
 
-  const double* data() const { return cells_; }
   double operator[](std::ptrdiff_t k) const { return cells_[k]; }
 };
 
@@ -81,7 +82,6 @@ class Flags : public Reader<char> {
   Flags(const matrix* m, int n, int p = 1)
       : Reader(m, m == nullptr ? nullptr : reinterpret_cast<const char*>(m->missing), n, p, 0) {}
 
-  const char* data() const { return cells_; }
   bool operator[](std::ptrdiff_t k) const { return cells_[k] != 0; }
 };
 
@@ -112,6 +112,7 @@ class Target {
   Target(const Target&) = delete;
 
   double* data() { return data_; }
+  double* column(std::ptrdiff_t j) { return data_ + stride_ * j; }
   std::ptrdiff_t stride() const { return stride_; }
   double& operator[](std::ptrdiff_t k) { return data_[k]; }
 
@@ -132,8 +133,9 @@ class Target {
  private:
   bool anyFlagged() const {
     for (int j = 0; j < p_; ++j) {
-      const bool* flags = container_->missing + addressing::linearIndex(0, j, container_->nX);
-      if (std::memchr(flags, 1, static_cast<std::size_t>(n_)) != nullptr) return true;
+      if (screening::anyFlagged(container_->missing + addressing::linearIndex(0, j, container_->nX), n_)) {
+        return true;
+      }
     }
     return false;
   }

@@ -162,9 +162,8 @@ class KAV_API matrix {
   ///
   /// @param out       receives the inverse by the element rule; as it was when singular; may be this matrix
   /// @param singular  set to -1 when singular, else as it was
-  /// @param tol       only its sign counts: pivots up to 1e-8 in absolute value are zero when it is above 0,
-  /// up to
-  ///                  2.220446049250313e-16 otherwise
+  /// @param tol       only its sign counts: pivots up to 1e-8 in absolute value are zero when it is above
+  ///                  0, up to 2.220446049250313e-16 otherwise
   /// @return 0, or -1 when singular. Throws std::bad_alloc.
   int inverse1(matrix* out, short& singular, double tol) const;
 

@@ -29,7 +29,7 @@ class LuDecomposition {
         minusOnes_(kPanel, -1.0),
         tiny_(pivotThreshold(tol)) {
     const block::Values source(&a, n_, n_);
-    for (int j = 0; j < n_; ++j) std::copy_n(source.data() + source.stride() * j, n_, column(j));
+    for (int j = 0; j < n_; ++j) std::copy_n(source.column(j), n_, column(j));
     singular_ = !decompose();
   }
 

@@ -3,8 +3,8 @@
 
 #include <emmintrin.h>
 
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 
 #include "core/marker.h"
 
@@ -33,13 +33,26 @@ bool allUsed(const char* flags, const short* exclude) {
   return _mm_movemask_epi8(_mm_cmpeq_epi8(any, _mm_setzero_si128())) == 0xFFFF;
 }
 
+/// Whether any of n flags is set. The C library's search is a loop over bytes on some systems.
+inline bool anyFlagged(const bool* missing, std::ptrdiff_t n) {
+  static_assert(sizeof(bool) == sizeof(char));
+  const char* flags = reinterpret_cast<const char*>(missing);
+  std::ptrdiff_t k = 0;
+  for (; n - k >= kStretch; k += kStretch) {
+    if (!allUsed<kStretch>(flags + k, nullptr)) return true;
+  }
+  for (; k < n; ++k) {
+    if (flags[k] != 0) return true;
+  }
+  return false;
+}
+
 /// Whether a cell counts as missing where missing ones are counted.
 inline bool countsAsMissing(double x, char flag) { return x <= kMissing || flag != 0; }
 
 /// Whether any cell is flagged or holds the marker.
 inline bool anyMissing(const double* x, const bool* flags, std::ptrdiff_t n) {
-  if (n < 1) return false;
-  if (std::memchr(flags, 1, static_cast<std::size_t>(n)) != nullptr) return true;
+  if (anyFlagged(flags, n)) return true;
   const __m128d marker = _mm_set1_pd(kMissing);
   __m128d any = _mm_setzero_pd();
   std::ptrdiff_t i = 0;

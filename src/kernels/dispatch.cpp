@@ -10,6 +10,7 @@ namespace kernels {
   namespace isa {                                                                                   \
   extern const int pairLanes, sides;                                                                \
   void product(const Product& p, double* scratch);                                                  \
+  void transpose(const Transposition& t);                                                           \
   void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums); \
   void backSubstitute(const double* u, std::ptrdiff_t n, double* x);                                \
   }
@@ -20,12 +21,12 @@ KAV_KERNELS(avx512)
 
 namespace {
 
-const Table kSse2 = {"SSE2",      sse2::product,       sse2::pairLanes, sse2::pairMoments,
-                     sse2::sides, sse2::backSubstitute};
-const Table kAvx2 = {"AVX2",      avx2::product,       avx2::pairLanes, avx2::pairMoments,
-                     avx2::sides, avx2::backSubstitute};
-const Table kAvx512 = {"AVX-512",           avx512::product, avx512::pairLanes,
-                       avx512::pairMoments, avx512::sides,   avx512::backSubstitute};
+#define KAV_TABLE(name, isa) \
+  { name, isa::product, isa::transpose, isa::pairLanes, isa::pairMoments, isa::sides, isa::backSubstitute }
+const Table kSse2 = KAV_TABLE("SSE2", sse2);
+const Table kAvx2 = KAV_TABLE("AVX2", avx2);
+const Table kAvx512 = KAV_TABLE("AVX-512", avx512);
+#undef KAV_TABLE
 
 struct Supported {
   Supported() {

@@ -36,6 +36,16 @@ struct Product {
 /// Doubles of scratch memory that a product needs.
 std::size_t productScratch(const Product& product);
 
+/// to(j, i) = factor * from(i, j) for a table of rows x columns; both lie column after column.
+struct Transposition {
+  const double* from;
+  std::ptrdiff_t fromStride;  ///< from column to column of from
+  std::ptrdiff_t rows, columns;
+  double factor;
+  double* to;             ///< no cell of from
+  std::ptrdiff_t stride;  ///< from column to column of to
+};
+
 /// Rows of a table in which a column is present, for its co-moments with the others.
 struct PairRows {
   const double* x;               ///< row r at x + stride r; 0.0 where a cell is missing
@@ -56,6 +66,7 @@ struct PairSums {
 struct Table {
   const char* name;
   void (*product)(const Product& product, double* scratch);
+  void (*transpose)(const Transposition& transposition);
 
   /// Columns that pairMoments goes on with side by side.
   int pairLanes;

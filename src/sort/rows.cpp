@@ -1,7 +1,6 @@
 #include "sort/rows.h"
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
 
 #include "core/block.h"
@@ -24,7 +23,7 @@ void gather(const double* before, const int* rows, int count, double* values) {
 void move(double* values, const bool* flags, const int* rows, Scratch<double>& before) {
   std::copy_n(values, before.size(), before.data());
   const auto count = static_cast<int>(before.size());
-  if (std::memchr(flags, 1, before.size()) == nullptr) {
+  if (!screening::anyFlagged(flags, count)) {
     gather(before.data(), rows, count, values);
     return;
   }
@@ -54,8 +53,8 @@ void permuteBeyond(matrix* table, int columns, const Range& span, const RowOrder
   block::Target target(table, span.end, columns);
   Scratch<double> column(static_cast<std::size_t>(span.count()));
   for (int j = 0; j < columns; ++j) {
-    std::copy_n(before.data() + before.stride() * j + span.begin, span.count(), column.data());
-    gather(column.data(), order.rows(), span.count(), target.data() + target.stride() * j + span.begin);
+    std::copy_n(before.column(j) + span.begin, span.count(), column.data());
+    gather(column.data(), order.rows(), span.count(), target.column(j) + span.begin);
   }
   target.store();
 }

@@ -149,8 +149,8 @@ void SortApply(const matrix* source, int rows, int columns, const matrix* order,
   results::prepare(out, rows, columns);
   block::Target to(out, rows, columns);
   for (int j = 0; j < columns; ++j) {
-    const double* column = from.data() + from.stride() * j;
-    double* result = to.data() + to.stride() * j;
+    const double* column = from.column(j);
+    double* result = to.column(j);
     for (int r = 0; r < rows; ++r) {
       const int row = rowAskedFor(asked[r], rows);
       result[r] = row < 0 ? kOutside : column[row];

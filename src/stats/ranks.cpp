@@ -127,8 +127,7 @@ void M_GetRanksTies(const matrix* a, int n, int p, const matrix* w, matrix*& ran
   block::Target target(ranks, n, p);
   for (int j = 0; j < p; ++j) {
     const auto sizes =
-        ranksWithTies(cells.data() + cells.stride() * j, n, w == nullptr ? nullptr : weights.data(),
-                      target.data() + target.stride() * j, asItIs);
+        ranksWithTies(cells.column(j), n, w == nullptr ? nullptr : weights.data(), target.column(j), asItIs);
     if (ties != nullptr) ties[j] = static_cast<int>(sizes.size());
   }
   target.store();

@@ -87,8 +87,8 @@ short V_V1GreaterThanMatCols(const matrix* w, int n, const matrix* y, int p) {
   const block::Values cells(y, n, p);
   const block::Flags flags(y, n, p);
   for (int j = 0; j < p; ++j) {
-    const double* column = cells.data() + cells.stride() * j;
-    const usable::Present present(column, flags.data() + flags.stride() * j);
+    const double* column = cells.column(j);
+    const usable::Present present(column, flags.column(j));
     for (int i = 0; i < n; ++i) {
       if (!present(i) || !bounded(i) || !(bounds[i] > column[i])) return kFalse;
     }

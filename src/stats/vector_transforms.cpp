@@ -126,7 +126,7 @@ void V_ProductV1TrV2(const matrix* x, int n, const matrix* y, matrix*& out) {
   results::prepare(out, n, n);
   block::Target table(out, n, n);
   for (int j = 0; j < n; ++j) {
-    double* column = table.data() + table.stride() * j;
+    double* column = table.column(j);
     for (int i = 0; i < n; ++i) column[i] = a[i] * b[j];
   }
   table.store();
@@ -140,7 +140,7 @@ void V_ProductHorizV1V2(const matrix* x, int p1, const matrix* y, int p2, matrix
 }
 
 void V_ProductHorizV1V22(matrix*& x, int* p1, const matrix* y, int p2) {
-  if (p1 == nullptr) return;
+  if (p1 == nullptr || *p1 < 1 || p2 < 1) return;
   const std::int64_t cells = addressing::cellCount(*p1, p2);
   if (cells > std::numeric_limits<int>::max()) throw std::bad_alloc();
   const auto size = static_cast<int>(cells);

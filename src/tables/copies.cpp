@@ -30,7 +30,7 @@ void M_Duplicate(const matrix* a, int n, int p, matrix*& out) {
   matrix::matCheck(out, n, p, 0.0);
   block::Target target(out, n, p);
   for (int j = 0; j < p; ++j) {
-    std::copy_n(source.data() + source.stride() * j, std::max(n, 0), target.data() + target.stride() * j);
+    std::copy_n(source.column(j), std::max(n, 0), target.column(j));
   }
   target.store();
 }

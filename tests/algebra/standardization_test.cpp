@@ -114,7 +114,7 @@ TEST(Standardization, StatisticsEqualTheirDefinitionBitForBit) {
       for (int i = 0; i < n; ++i) {
         const double x = table.getElement(i, j), z = all.standardized(x);
         EXPECT_TRUE(bits::equal(out[0]->getElement(i, j), z));
-        EXPECT_EQ(out[1]->missing[i + n * j], table.missing[i + table.nX * j]);
+        EXPECT_EQ(out[1]->missing[i + n * j], table.getMissing(i, j));
         if (table.getMissing(i, j)) continue;
         EXPECT_TRUE(bits::equal(out[1]->getElement(i, j), rows != nullptr && rows[i] != 0 ? x : z));
       }
