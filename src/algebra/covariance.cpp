@@ -82,31 +82,36 @@ CoMoment coMoment(const Rows& rows, const Cells& tableA, int a, const Cells& tab
   return m;
 }
 
+/// Columns padded so that every kernel's lanes fit.
+std::ptrdiff_t paddedToLanes(int p) {
+  return (std::ptrdiff_t{p} + kernels::kMostLanes - 1) / kernels::kMostLanes * kernels::kMostLanes;
+}
+
 /// Covariances of all columns of a table without a missing cell in its rows: their means do not depend on the
 /// partner, so deviations are computed once for each column, and all sums are one product of tables.
 ///
 /// @return the sum of the weights
 double completeCoMoments(shared_rows::RowBlocks& rows, const Cells& cells, int p, double* c, double* means) {
-  constexpr std::ptrdiff_t kBlock = shared_rows::kBlock;
-  const std::size_t room = (static_cast<std::size_t>(p) + 7) / 8 * 8 * static_cast<std::size_t>(kBlock);
-  Scratch<double> deviations(room), weighted(room);
-  kernels::Product product = {{deviations.data(), kBlock, 1},
-                              {weighted.data(), 1, kBlock},
+  const std::ptrdiff_t stride = paddedToLanes(p);
+  Scratch<double> deviations(static_cast<std::size_t>(stride * shared_rows::kBlock + kernels::kMostLanes)),
+      weighted(deviations.size());
+  kernels::Product product = {{deviations.data(), 1, stride},
+                              {weighted.data(), stride, 1},
                               nullptr,
                               0,
                               p,
                               p,
-                              kBlock,
+                              shared_rows::kBlock,
                               c,
                               p,
                               true,
-                              false};
-  Scratch<double> scratch(kernels::productScratch(product));
+                              false,
+                              true};
   shared_rows::Columns columns(p);
   while (rows.next()) {
-    columns.add(rows, [&](int j) { return cells.column(j); }, {deviations.data(), weighted.data()});
+    columns.add(rows, [&](int j) { return cells.column(j); }, {deviations.data(), weighted.data(), stride});
     product.depth = rows.count();
-    kernels::best().product(product, scratch.data());
+    kernels::best().product(product, nullptr);
     product.continued = true;
   }
   for (int j = 0; j < p; ++j) means[j] = columns.mean(j);
@@ -118,7 +123,7 @@ class PairwiseCoMoments {
  public:
   PairwiseCoMoments(const Cells& cells, int n, int p, const short* rowFlags, const matrix* weights)
       : p_(p),
-        stride_((std::ptrdiff_t{p} + kMostLanes - 1) / kMostLanes * kMostLanes),
+        stride_(paddedToLanes(p)),
         sums_(static_cast<std::size_t>(5 * stride_ * p)),
         x_(static_cast<std::size_t>(stride_ * shared_rows::kBlock)),
         present_(x_.size()) {
@@ -132,9 +137,6 @@ class PairwiseCoMoments {
   }
 
  private:
-  /// Columns are padded so that every kernel's lanes fit.
-  static constexpr std::ptrdiff_t kMostLanes = 16;
-
   void add(const shared_rows::RowBlocks& rows, const Cells& cells) {
     for (int r = 0; r < rows.count(); ++r) {
       const int i = rows.rows()[r];

@@ -11,6 +11,7 @@ namespace kernels {
   extern const int pairLanes, sides;                                                                \
   void product(const Product& p, double* scratch);                                                  \
   void transpose(const Transposition& t);                                                           \
+  void columnMoments(const ColumnRows& rows);                                                       \
   void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums); \
   void backSubstitute(const double* u, std::ptrdiff_t n, double* x);                                \
   }
@@ -21,8 +22,11 @@ KAV_KERNELS(avx512)
 
 namespace {
 
-#define KAV_TABLE(name, isa) \
-  { name, isa::product, isa::transpose, isa::pairLanes, isa::pairMoments, isa::sides, isa::backSubstitute }
+#define KAV_TABLE(name, isa)                                                                              \
+  {                                                                                                       \
+    name, isa::product, isa::transpose, isa::columnMoments, isa::pairLanes, isa::pairMoments, isa::sides, \
+        isa::backSubstitute                                                                               \
+  }
 const Table kSse2 = KAV_TABLE("SSE2", sse2);
 const Table kAvx2 = KAV_TABLE("AVX2", avx2);
 const Table kAvx512 = KAV_TABLE("AVX-512", avx512);
@@ -52,7 +56,7 @@ const Table& kBest = choose();
 }  // namespace
 
 std::size_t productScratch(const Product& p) {
-  if (isSmall(p)) return 0;
+  if (isSmall(p) || p.sideBySide) return 0;
   const std::ptrdiff_t depth = p.depth < kBlockDepth ? p.depth : kBlockDepth;
   // Each cell of b twice, as the plainest kernel wants it, and its columns filled up to whole tiles.
   const std::ptrdiff_t columns = (p.columns < kBlockColumns ? p.columns : kBlockColumns) + kMostTileColumns;

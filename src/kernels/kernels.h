@@ -31,6 +31,9 @@ struct Product {
   std::ptrdiff_t stride;  ///< from column to column of c
   bool upperOnly;         ///< cells with j < i need not be computed
   bool continued;         ///< sums go on from what c holds
+  /// a.row and b.column are 1, the depth is small, and behind the last cells of either kMostLanes more can be
+  /// read: then they are used where they are.
+  bool sideBySide = false;
 };
 
 /// Doubles of scratch memory that a product needs.
@@ -45,6 +48,21 @@ struct Transposition {
   double* to;             ///< no cell of from
   std::ptrdiff_t stride;  ///< from column to column of to
 };
+
+/// Rows of some columns, and their means and sums of squares so far.
+struct ColumnRows {
+  const double* const* x;  ///< each column's cells in those rows, one after the other
+  std::ptrdiff_t columns;
+  const double *ofMean, *ofSquare;  ///< for each row w / W and w - w^2 / W, as moments::Share has them
+  std::ptrdiff_t count;             ///< of rows
+  double *means, *squares;          ///< one cell for each column
+  double* deviations;               ///< null, or row after row: x - m
+  double* weighted;                 ///< likewise: (w - w^2 / W) (x - m)
+  std::ptrdiff_t stride;            ///< from row to row of both, a multiple of kMostLanes
+};
+
+/// Lanes that a kernel goes on with side by side, at most.
+inline constexpr int kMostLanes = 16;
 
 /// Rows of a table in which a column is present, for its co-moments with the others.
 struct PairRows {
@@ -67,6 +85,10 @@ struct Table {
   const char* name;
   void (*product)(const Product& product, double* scratch);
   void (*transpose)(const Transposition& transposition);
+
+  /// Goes on with the means and sums of squares of some columns by the weighted update of core/moments.h, in
+  /// the order of the rows.
+  void (*columnMoments)(const ColumnRows& rows);
 
   /// Columns that pairMoments goes on with side by side.
   int pairLanes;

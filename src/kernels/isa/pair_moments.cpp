@@ -1,34 +1,18 @@
 // Co-moments of one column with several others, each pair over the rows where both are present. Compiled once
 // for each instruction set, as product.cpp is.
 
+#include "kernels/isa/vectors.h"
 #include "kernels/kernels.h"
 
 namespace kernels::KAV_ISA {
 
 namespace {
 
-using Index = std::ptrdiff_t;
-
-typedef double Vector __attribute__((vector_size(KAV_VECTOR_BYTES), aligned(8), may_alias));
-typedef long long Bits __attribute__((vector_size(KAV_VECTOR_BYTES), aligned(8), may_alias));
-
-constexpr Index kLanes = KAV_VECTOR_BYTES / static_cast<Index>(sizeof(double));
-
 /// Two vectors hide each other's divisions; eight registers have room for one.
 constexpr Index kVectors = sizeof(void*) == 8 ? 2 : 1;
 
-inline Vector load(const double* from) { return *reinterpret_cast<const Vector*>(from); }
-
-inline void store(double* to, Vector x) { *reinterpret_cast<Vector*>(to) = x; }
-
 inline Vector where(Bits mask, Vector x) {
   return reinterpret_cast<Vector>(mask & reinterpret_cast<Bits>(x));
-}
-
-inline Vector spread(double x) {
-  Vector all;
-  for (Index lane = 0; lane < kLanes; ++lane) all[lane] = x;
-  return all;
 }
 
 }  // namespace

@@ -1,19 +1,13 @@
-// The product of two tables. Compiled once for each instruction set, with KAV_ISA its namespace and
-// KAV_VECTOR_BYTES the size of its vectors. Everything else has internal linkage and nothing is shared: code
-// for one instruction set must not serve another.
+// The product of two tables. Compiled once for each instruction set, see vectors.h. Everything else has
+// internal linkage.
 
+#include "kernels/isa/vectors.h"
 #include "kernels/kernels.h"
 #include "kernels/tiles.h"
 
 namespace kernels::KAV_ISA {
 
 namespace {
-
-using Index = std::ptrdiff_t;
-
-constexpr Index kLanes = KAV_VECTOR_BYTES / static_cast<Index>(sizeof(double));
-
-typedef double Vector __attribute__((vector_size(KAV_VECTOR_BYTES), aligned(8), may_alias));
 
 // Eight vector registers hold six sums, a column of a and a factor; sixteen hold twelve sums. Without an
 // instruction that spreads a double over a vector the factors of b are stored as often as a vector has lanes.
@@ -31,19 +25,27 @@ static_assert(kTileRows <= kMostTileRows && kTileColumns <= kMostTileColumns);
 
 inline Index least(Index a, Index b) { return a < b ? a : b; }
 
-inline Vector load(const double* from) { return *reinterpret_cast<const Vector*>(from); }
-
-inline void store(double* to, Vector x) { *reinterpret_cast<Vector*>(to) = x; }
+/// Cells that lie side by side in memory, `width` for each k, one group after the other.
+template <Index width>
+void packNeighbours(const double* from, Index step, Index depth, double* to) {
+  for (Index k = 0; k < depth; ++k) {
+    for (Index i = 0; i < width; ++i) to[k * width + i] = from[k * step + i];
+  }
+}
 
 /// Packed as tiles read them: for each k the cells of kTileRows rows side by side, 0.0 beyond the last row.
 void packA(const Product& p, Index row, Index rows, Index k0, Index depth, double* to) {
   for (Index begin = 0; begin < rows; begin += kTileRows) {
     const Index used = least(kTileRows, rows - begin);
     const double* from = p.a.cells + (row + begin) * p.a.row + k0 * p.a.column;
-    for (Index k = 0; k < depth; ++k) {
-      const double* cell = from + k * p.a.column;
-      for (Index i = 0; i < used; ++i) to[k * kTileRows + i] = cell[i * p.a.row];
-      for (Index i = used; i < kTileRows; ++i) to[k * kTileRows + i] = 0.0;
+    if (used == kTileRows && p.a.row == 1) {
+      packNeighbours<kTileRows>(from, p.a.column, depth, to);
+    } else {
+      for (Index k = 0; k < depth; ++k) {
+        const double* cell = from + k * p.a.column;
+        for (Index i = 0; i < used; ++i) to[k * kTileRows + i] = cell[i * p.a.row];
+        for (Index i = used; i < kTileRows; ++i) to[k * kTileRows + i] = 0.0;
+      }
     }
     if (p.scale != nullptr) {
       for (Index k = 0; k < depth; ++k) {
@@ -60,6 +62,11 @@ void packB(const Product& p, Index column, Index columns, Index k0, Index depth,
   for (Index begin = 0; begin < columns; begin += kTileColumns) {
     const Index used = least(kTileColumns, columns - begin);
     const double* from = p.b.cells + k0 * p.b.row + (column + begin) * p.b.column;
+    if (used == kTileColumns && p.b.column == 1 && kCopies == 1) {
+      packNeighbours<kTileColumns>(from, p.b.row, depth, to);
+      to += depth * kTileColumns;
+      continue;
+    }
     for (Index k = 0; k < depth; ++k) {
       for (Index j = 0; j < kTileColumns; ++j) {
         const double cell = j < used ? from[k * p.b.row + j * p.b.column] : 0.0;
@@ -69,8 +76,19 @@ void packB(const Product& p, Index column, Index columns, Index k0, Index depth,
   }
 }
 
+/// Where a tile finds the cells of a and b for each k: packed, or side by side in tables.
+struct Packed {
+  static constexpr Index stepA = kTileRows, stepB = kTileColumns * kCopies, copies = kCopies;
+};
+struct SideBySide {
+  Index stepA, stepB;
+  static constexpr Index copies = 1;
+};
+
 /// One tile of c, its sums in registers: they start at 0.0, or go on from what c holds.
-void tile(const double* a, const double* b, Index depth, double* c, Index stride, bool continued) {
+template <class Place>
+void tile(const Place& place, const double* a, const double* b, Index depth, double* c, Index stride,
+          bool continued) {
   Vector sums[kTileColumns][kTileVectors];
   for (Index j = 0; j < kTileColumns; ++j) {
     for (Index v = 0; v < kTileVectors; ++v) {
@@ -81,29 +99,37 @@ void tile(const double* a, const double* b, Index depth, double* c, Index stride
     Vector cells[kTileVectors];
     for (Index v = 0; v < kTileVectors; ++v) cells[v] = load(a + v * kLanes);
     for (Index j = 0; j < kTileColumns; ++j) {
-#if KAV_VECTOR_BYTES == 16
-      const Vector factor = load(b + j * kCopies);
-#else
-      const double factor = b[j];
-#endif
-      for (Index v = 0; v < kTileVectors; ++v) sums[j][v] += cells[v] * factor;
+      if constexpr (Place::copies == kLanes) {
+        const Vector factor = load(b + j * kLanes);
+        for (Index v = 0; v < kTileVectors; ++v) sums[j][v] += cells[v] * factor;
+      } else {
+        const double factor = b[j];
+        for (Index v = 0; v < kTileVectors; ++v) sums[j][v] += cells[v] * factor;
+      }
     }
-    a += kTileRows;
-    b += kTileColumns * kCopies;
+    a += place.stepA;
+    b += place.stepB;
   }
   for (Index j = 0; j < kTileColumns; ++j) {
     for (Index v = 0; v < kTileVectors; ++v) store(c + j * stride + v * kLanes, sums[j][v]);
   }
 }
 
-/// A tile that reaches beyond c, in a tile of its own.
-void edgeTile(const double* a, const double* b, Index depth, double* c, Index stride, Index rows,
-              Index columns, bool continued) {
+/// The same of rows x columns cells, where fewer than a tile's in a tile of its own.
+template <class Place>
+void tile(const Place& place, const double* a, const double* b, Index depth, double* c, Index stride,
+          Index rows, Index columns, bool continued) {
+  if (rows >= kTileRows && columns >= kTileColumns) {
+    tile(place, a, b, depth, c, stride, continued);
+    return;
+  }
+  rows = least(rows, kTileRows);
+  columns = least(columns, kTileColumns);
   double whole[kTileRows * kTileColumns] = {};
   for (Index j = 0; continued && j < columns; ++j) {
     for (Index i = 0; i < rows; ++i) whole[i + j * kTileRows] = c[i + j * stride];
   }
-  tile(a, b, depth, whole, kTileRows, continued);
+  tile(place, a, b, depth, whole, kTileRows, continued);
   for (Index j = 0; j < columns; ++j) {
     for (Index i = 0; i < rows; ++i) c[i + j * stride] = whole[i + j * kTileRows];
   }
@@ -130,21 +156,31 @@ void smallProduct(const Product& p) {
   }
 }
 
+/// Whether a tile has cells that are wanted.
+inline bool isWanted(const Product& p, Index row, Index column) {
+  return !p.upperOnly || column + kTileColumns > row;
+}
+
 /// The tiles of one packed block of a with the packed columns of b.
 void blockProduct(const Product& p, const double* a, const double* b, Index row, Index rows, Index column,
                   Index columns, Index depth, bool continued) {
   for (Index j = 0; j < columns; j += kTileColumns) {
     for (Index i = 0; i < rows; i += kTileRows) {
-      if (p.upperOnly && column + j + kTileColumns <= row + i) continue;
-      const double* tileA = a + i * depth;
-      const double* tileB = b + j * depth * kCopies;
-      double* c = p.c + (row + i) + (column + j) * p.stride;
-      const Index usedRows = least(kTileRows, rows - i), usedColumns = least(kTileColumns, columns - j);
-      if (usedRows == kTileRows && usedColumns == kTileColumns) {
-        tile(tileA, tileB, depth, c, p.stride, continued);
-      } else {
-        edgeTile(tileA, tileB, depth, c, p.stride, usedRows, usedColumns, continued);
-      }
+      if (!isWanted(p, row + i, column + j)) continue;
+      tile(Packed(), a + i * depth, b + j * depth * kCopies, depth, p.c + (row + i) + (column + j) * p.stride,
+           p.stride, rows - i, columns - j, continued);
+    }
+  }
+}
+
+/// The tiles of tables that are used where they are.
+void productInPlace(const Product& p) {
+  const SideBySide place = {p.a.column, p.b.row};
+  for (Index j = 0; j < p.columns; j += kTileColumns) {
+    for (Index i = 0; i < p.rows; i += kTileRows) {
+      if (!isWanted(p, i, j)) continue;
+      tile(place, p.a.cells + i, p.b.cells + j, p.depth, p.c + i + j * p.stride, p.stride, p.rows - i,
+           p.columns - j, p.continued);
     }
   }
 }
@@ -154,6 +190,10 @@ void blockProduct(const Product& p, const double* a, const double* b, Index row,
 void product(const Product& p, double* scratch) {
   if (isSmall(p)) {
     smallProduct(p);
+    return;
+  }
+  if (p.sideBySide) {
+    productInPlace(p);
     return;
   }
   double* const packedA = scratch;

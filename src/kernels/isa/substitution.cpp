@@ -1,14 +1,11 @@
 // Back substitution for several right-hand sides. Compiled once for each instruction set, as product.cpp is.
 
+#include "kernels/isa/vectors.h"
 #include "kernels/kernels.h"
 
 namespace kernels::KAV_ISA {
 
 namespace {
-
-typedef double Vector __attribute__((vector_size(KAV_VECTOR_BYTES), aligned(8), may_alias));
-
-constexpr int kLanes = KAV_VECTOR_BYTES / static_cast<int>(sizeof(double));
 
 /// Enough sums beside each other to hide the latency of a subtraction.
 constexpr int kVectors = KAV_VECTOR_BYTES == 16 && sizeof(void*) == 8 ? 8 : 4;
@@ -16,7 +13,7 @@ constexpr int kVectors = KAV_VECTOR_BYTES == 16 && sizeof(void*) == 8 ? 8 : 4;
 }  // namespace
 
 extern const int sides;
-const int sides = kVectors * kLanes;
+const int sides = static_cast<int>(kVectors * kLanes);
 
 void backSubstitute(const double* u, std::ptrdiff_t n, double* x) {
   for (std::ptrdiff_t i = n - 1; i >= 0; --i) {

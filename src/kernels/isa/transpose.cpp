@@ -2,13 +2,12 @@
 
 #include <cstdint>
 
+#include "kernels/isa/vectors.h"
 #include "kernels/kernels.h"
 
 namespace kernels::KAV_ISA {
 
 namespace {
-
-using Index = std::ptrdiff_t;
 
 /// Cells that are transposed at a time, in either direction: those of a cache line.
 constexpr Index kTile = 8;
@@ -17,39 +16,17 @@ constexpr Index kTile = 8;
 /// touches another line in every row, which no processor foresees by itself.
 constexpr Index kTilesAhead = 8;
 
-// Half a line is the widest vector that is worth while: the moves between lanes double with the width.
-constexpr Index kLanes = KAV_VECTOR_BYTES == 16 ? 2 : 4;
-
-typedef double Vector __attribute__((vector_size(kLanes * sizeof(double)), aligned(8), may_alias));
-typedef long long Lanes __attribute__((vector_size(kLanes * sizeof(double))));
-
-inline Vector load(const double* from) { return *reinterpret_cast<const Vector*>(from); }
-
-inline void store(double* to, Vector x) { *reinterpret_cast<Vector*>(to) = x; }
-
-/// kLanes x kLanes cells.
+/// kNarrowLanes x kNarrowLanes cells.
 inline void transposeInRegisters(const Transposition& t, const double* from, double* to) {
-#if KAV_VECTOR_BYTES == 16
-  const Vector a = t.factor * load(from), b = t.factor * load(from + t.fromStride);
-  store(to, __builtin_shuffle(a, b, Lanes{0, 2}));
-  store(to + t.stride, __builtin_shuffle(a, b, Lanes{1, 3}));
-#else
-  const Vector a = t.factor * load(from), b = t.factor * load(from + t.fromStride);
-  const Vector c = t.factor * load(from + 2 * t.fromStride), d = t.factor * load(from + 3 * t.fromStride);
-  const Vector evenAB = __builtin_shuffle(a, b, Lanes{0, 4, 2, 6});
-  const Vector evenCD = __builtin_shuffle(c, d, Lanes{0, 4, 2, 6});
-  const Vector oddAB = __builtin_shuffle(a, b, Lanes{1, 5, 3, 7});
-  const Vector oddCD = __builtin_shuffle(c, d, Lanes{1, 5, 3, 7});
-  store(to, __builtin_shuffle(evenAB, evenCD, Lanes{0, 1, 4, 5}));
-  store(to + t.stride, __builtin_shuffle(oddAB, oddCD, Lanes{0, 1, 4, 5}));
-  store(to + 2 * t.stride, __builtin_shuffle(evenAB, evenCD, Lanes{2, 3, 6, 7}));
-  store(to + 3 * t.stride, __builtin_shuffle(oddAB, oddCD, Lanes{2, 3, 6, 7}));
-#endif
+  Narrow columns[kNarrowLanes], rows[kNarrowLanes];
+  for (Index j = 0; j < kNarrowLanes; ++j) columns[j] = t.factor * loadNarrow(from + t.fromStride * j);
+  transposeLanes(columns, rows);
+  for (Index i = 0; i < kNarrowLanes; ++i) storeNarrow(to + t.stride * i, rows[i]);
 }
 
 inline void transposeTile(const Transposition& t, Index row, Index column) {
-  for (Index i = row; i < row + kTile; i += kLanes) {
-    for (Index j = column; j < column + kTile; j += kLanes) {
+  for (Index i = row; i < row + kTile; i += kNarrowLanes) {
+    for (Index j = column; j < column + kTile; j += kNarrowLanes) {
       transposeInRegisters(t, t.from + i + t.fromStride * j, t.to + j + t.stride * i);
     }
   }
