@@ -85,6 +85,16 @@ class Flags : public Reader<char> {
   bool operator[](std::ptrdiff_t k) const { return cells_[k] != 0; }
 };
 
+/// Whether writes to a block are plain: it lies inside the container, its columns do not overlap, and no cell
+/// of it is flagged.
+inline bool isPlain(const matrix* m, int n, int p) {
+  if (!liesInside(m, n, p) || (n > m->nX && p != 1)) return false;
+  for (int j = 0; j < p; ++j) {
+    if (screening::anyFlagged(m->missing + addressing::linearIndex(0, j, m->nX), n)) return false;
+  }
+  return true;
+}
+
 /// A block to be written, as setElement writes it, once store() is called.
 ///
 /// Where a cell is flagged or outside, or where n exceeds the container's rows so that columns overlap,
@@ -95,7 +105,7 @@ class Target {
  public:
   Target(matrix* m, int n, int p = 1) : container_(m), n_(n), p_(p) {
     if (addressing::cellCount(n, p) == 0) return;
-    if (liesInside(m, n, p) && (n <= m->nX || p == 1) && !anyFlagged()) {
+    if (isPlain(m, n, p)) {
       data_ = m->values;
       stride_ = m->nX;
     } else {
@@ -131,15 +141,6 @@ class Target {
   }
 
  private:
-  bool anyFlagged() const {
-    for (int j = 0; j < p_; ++j) {
-      if (screening::anyFlagged(container_->missing + addressing::linearIndex(0, j, container_->nX), n_)) {
-        return true;
-      }
-    }
-    return false;
-  }
-
   matrix* container_;
   int n_;
   int p_;

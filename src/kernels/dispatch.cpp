@@ -5,41 +5,26 @@
 
 namespace kernels {
 
-// What each instruction set's sources define.
-#define KAV_KERNELS(isa)                                                                            \
-  namespace isa {                                                                                   \
-  extern const int pairLanes, sides;                                                                \
-  void product(const Product& p, double* scratch);                                                  \
-  void transpose(const Transposition& t);                                                           \
-  void columnMoments(const ColumnRows& rows);                                                       \
-  void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums); \
-  void backSubstitute(const double* u, std::ptrdiff_t n, double* x);                                \
-  }
-KAV_KERNELS(sse2)
-KAV_KERNELS(avx2)
-KAV_KERNELS(avx512)
-#undef KAV_KERNELS
+namespace sse2 {
+extern const Table table;
+}
+namespace avx2 {
+extern const Table table;
+}
+namespace avx512 {
+extern const Table table;
+}
 
 namespace {
-
-#define KAV_TABLE(name, isa)                                                                              \
-  {                                                                                                       \
-    name, isa::product, isa::transpose, isa::columnMoments, isa::pairLanes, isa::pairMoments, isa::sides, \
-        isa::backSubstitute                                                                               \
-  }
-const Table kSse2 = KAV_TABLE("SSE2", sse2);
-const Table kAvx2 = KAV_TABLE("AVX2", avx2);
-const Table kAvx512 = KAV_TABLE("AVX-512", avx512);
-#undef KAV_TABLE
 
 struct Supported {
   Supported() {
     __builtin_cpu_init();
-    if (__builtin_cpu_supports("avx2")) tables[count++] = &kAvx2;
-    if (__builtin_cpu_supports("avx512f")) tables[count++] = &kAvx512;
+    if (__builtin_cpu_supports("avx2")) tables[count++] = &avx2::table;
+    if (__builtin_cpu_supports("avx512f")) tables[count++] = &avx512::table;
   }
 
-  const Table* tables[3] = {&kSse2};
+  const Table* tables[3] = {&sse2::table};
   int count = 1;
 };
 

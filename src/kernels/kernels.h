@@ -80,6 +80,27 @@ struct PairSums {
   double *total, *count, *products, *meanA, *meanB;
 };
 
+/// A row of cells side by side that takes off multiples of others.
+struct RowTerms {
+  double* row;
+  const double* factors;
+  std::ptrdiff_t factorStep;
+  const double* rows;
+  std::ptrdiff_t rowStep;
+  std::ptrdiff_t count;
+};
+
+/// Columns that take off multiples of a pivot's row.
+struct Elimination {
+  double* x;
+  std::ptrdiff_t stride, rows, columns;
+  const double* factors;        ///< one for each row
+  const double* pivots;         ///< one for each column
+  const std::uint64_t* counts;  ///< for each row: all bits but the sign where its cells count, else 0
+  double* largest;  ///< for each column, out: the largest absolute value among those that count; NaN
+                    ///< is none, and without any 0.0
+};
+
 /// The kernels for one instruction set.
 struct Table {
   const char* name;
@@ -97,8 +118,11 @@ struct Table {
   /// core/moments.h: products += (w - w^2 / W) (x_b - m_b) (x_a - m_a), and so on, in the order of the rows.
   void (*pairMoments)(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
 
-  /// Right-hand sides that backSubstitute solves for side by side.
+  /// Cells of a row that the next two go on with side by side.
   int sides;
+
+  /// row[c] -= factors[k] rows[k][c] for k = 0 .. count-1, one after the other, and c < sides.
+  void (*subtractRows)(const RowTerms& terms);
 
   /// Solves U x = y in place, x holding y row by row, `sides` cells a row: for i = n-1 down to 0
   ///
@@ -106,6 +130,12 @@ struct Table {
   ///
   /// @param u  n x n, row after row; cells left of the diagonal are not looked at
   void (*backSubstitute)(const double* u, std::ptrdiff_t n, double* x);
+
+  /// x(i, j) -= factors[i] pivots[j], and the largest of each column.
+  void (*eliminate)(const Elimination& elimination);
+
+  /// x[j] -= a b[j]; what is below the threshold in absolute value becomes 0.0.
+  void (*sweepRow)(double* x, double a, const double* b, std::ptrdiff_t n, double threshold);
 };
 
 /// Those that this processor and system can run, the plainest first, and how many they are.

@@ -14,6 +14,12 @@ constexpr double kLn2High = 0x1.62e42fee00000p-1;
 constexpr double kLn2Low = 0x1.a39ef35793c76p-33;
 constexpr double kLog2E = 0x1.71547652b82fep+0;
 
+/// The same of log10(2), and log10(e).
+constexpr double kLog10Of2High = 0x1.3441350800000p-2;
+constexpr double kLog10Of2Low = 0x1.f79fef311f12bp-34;
+constexpr double kLog10EHigh = 0x1.bcb7b1526e50ep-2;
+constexpr double kLog10ELow = 0x1.95355baaafad3p-57;
+
 /// 2/3, 2/5 ... 2/21
 constexpr auto kLogSeries = [] {
   std::array<double, 10> series{};
@@ -54,15 +60,21 @@ double productError(double a, double b) {
 
 }  // namespace
 
+namespace {
+
+/// A logarithm of a positive finite number, as k ln 2 + (f - less).
+struct Logarithm {
+  double k, f, less;
+};
+
 // x = 2^k (1 + f) with 1 + f between the roots of 1/2 and 2. With s = f / (2 + f),
 //
 //     log(1 + f) = 2 (s + s^3/3 + s^5/5 + ...) = f - (f^2/2 - s (f^2/2 + 2 (s^2/3 + s^4/5 + ...))),
 //
 // the second form because f is exact and what is taken off it is small.
-double naturalLog(double x) {
-  if (std::isnan(x) || x < 0.0) return kNaN;
-  if (x == 0.0) return -kInfinity;
-  if (x == kInfinity) return x;
+//
+// @param lowOf2  the low part of ln 2, or 0.0 where that is added elsewhere
+Logarithm logarithmOf(double x, double lowOf2) {
   int exponent;
   double significand = std::frexp(x, &exponent);
   if (significand < 0x1.6a09e667f3bcdp-1) {
@@ -74,7 +86,42 @@ double naturalLog(double x) {
   const double s = f / (2.0 + f);
   const double z = s * s;
   const double half = 0.5 * f * f;
-  return k * kLn2High - ((half - (s * (half + z * polynomial(kLogSeries, z)) + k * kLn2Low)) - f);
+  return {k, f, half - (s * (half + z * polynomial(kLogSeries, z)) + k * lowOf2)};
+}
+
+}  // namespace
+
+double naturalLog(double x) {
+  if (std::isnan(x) || x < 0.0) return kNaN;
+  if (x == 0.0) return -kInfinity;
+  if (x == kInfinity) return x;
+  const Logarithm log = logarithmOf(x, kLn2Low);
+  return log.k * kLn2High - (log.less - log.f);
+}
+
+// The natural logarithm of the significand in two parts, times 1/ln 10 in two parts; what rounding takes off
+// is added to the small parts, and they last.
+double Log10(double x) {
+  if (std::isnan(x) || x < 0.0) return kNaN;
+  if (x == 0.0) return -kInfinity;
+  if (x == kInfinity) return x;
+  const Logarithm log = logarithmOf(x, 0.0);
+  const double high = log.f - log.less;
+  const double low = (log.f - high) - log.less;
+  const double product = high * kLog10EHigh;
+  const double rest =
+      productError(high, kLog10EHigh) + high * kLog10ELow + low * kLog10EHigh + log.k * kLog10Of2Low;
+  const double whole = log.k * kLog10Of2High;
+  const double sum = whole + product;
+  const double lost =
+      std::fabs(whole) > std::fabs(product) ? (whole - sum) + product : (product - sum) + whole;
+  return sum + (lost + rest);
+}
+
+double power(double x, double y) {
+  if (y == 0.0) return 1.0;
+  if (y == 1.0) return x;
+  return y == 0.5 ? sqr(x) : exponential(y * naturalLog(x));
 }
 
 // x = k ln 2 + r; exp(r) by its series, the remainder of r added last.

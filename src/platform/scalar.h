@@ -28,6 +28,16 @@ double naturalLog(double x);
 /// Exponential, to less than one unit in the last place.
 double exponential(double x);
 
+/// Logarithm to base 10, to less than one unit in the last place, exact for powers of ten; -infinity for 0.0,
+/// NaN below.
+double Log10(double x);
+
+/// x to the power y, from its logarithm but for y = 0, 0.5 and 1; NaN below 0.0.
+double power(double x, double y);
+
+/// |a| with the sign of b.
+inline double FSign(double a, double b) { return std::copysign(a, b); }
+
 /// x to the power 1.5, correctly rounded but for rare ties and for results below the normal range; NaN below
 /// 0.0.
 double threeHalvesPower(double x);

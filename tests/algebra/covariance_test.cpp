@@ -1,38 +1,14 @@
 #include "algebra/covariance.h"
 
-#include <algorithm>
 #include <fstream>
 #include <sstream>
-#include <vector>
+#include <utility>
 
-#include "support/bits.h"
-#include "support/random.h"
+#include "support/tables.h"
 
 namespace {
 
-struct CoMoment {
-  double covariance = kMissing, mean = kMissing, divisor = 0.0;
-};
-
-/// A pair of columns, 1-based, as it is defined, cell by cell through the accessors.
-CoMoment byDefinition(const matrix& a, int ja, int jb, int n, const short* rowFlags, const matrix* weights,
-                      short unbiased, short frequencies) {
-  double total = 0.0, count = 0.0, products = 0.0, meanA = 0.0, meanB = 0.0;
-  for (int i = 1; i <= n; ++i) {
-    const double w = weights == nullptr ? 1.0 : weights->vbget(i, 1);
-    if ((rowFlags != nullptr && rowFlags[i - 1] != 0) || w == 0.0) continue;
-    if (a.getMissing(i - 1, ja - 1) || a.getMissing(i - 1, jb - 1)) continue;
-    total += w;
-    count += 1.0;
-    const double dB = a.vbget(i, jb) - meanB, dA = a.vbget(i, ja) - meanA;
-    products += (count == 1.0 ? 0.0 : w - w * w / total) * dB * dA;
-    meanA += (w / total) * dA;
-    meanB += (w / total) * dB;
-  }
-  if (count == 0.0) return {};
-  const double divisor = unbiased != -1 ? total : frequencies == -1 ? total - 1.0 : total - total / count;
-  return {products / divisor, meanA, divisor};
-}
+using C = matrix*&;
 
 double correlationOf(double covariance, double varianceA, double varianceB, bool diagonal) {
   if (covariance == kMissing) return kMissing;
@@ -41,22 +17,10 @@ double correlationOf(double covariance, double varianceA, double varianceB, bool
 }
 
 /// Cells of a vector or table, the marker where one is flagged.
-std::vector<double> cellsOf(const matrix& m) {
-  std::vector<double> cells(m.values, m.values + m.nX * m.pX);
+std::vector<double> markedCellsOf(const matrix& m) {
+  std::vector<double> cells = cellsOf(m);
   m.copyMatTo(cells.data());
   return cells;
-}
-
-/// Column 1 is constant, column 2 varies by less than correlations see; the others about any mean.
-void fill(matrix& a, Random& random, bool missing) {
-  for (int j = 0; j < a.pX; ++j) {
-    const double scale = j == 2 ? 1e-9 : j == 1 ? 0.0 : 3.1, mean = random.uniform(-1e3, 1e3);
-    for (int i = 0; i < a.nX; ++i) {
-      const int kind = missing ? random.below(j == 3 ? 2 : 8) : 9;
-      a.setElement(i, j, kind == 0 ? kMissing : mean + scale * random.uniform(-1.0, 1.0));
-      a.setMissing(i, j, kind == 1);
-    }
-  }
 }
 
 /// Columns of a file from the given one on, empty cells missing.
@@ -80,47 +44,46 @@ TEST(Covariance, EqualsItsDefinitionBitForBitWithAndWithoutMissingCells) {
   Random random(530);
   const int rowCounts[] = {0, 1, 2, 3, 64, 255, 256, 257, 600}, columnCounts[] = {1, 2, 4, 7, 8, 9, 17, 40};
   for (int round = 0; round < 144; ++round) {
-    SCOPED_TRACE("round " + std::to_string(round));
-    const int n = rowCounts[round % 9], p = columnCounts[round % 8], kind = random.below(4);
-    matrix table(n + random.below(2), p, 0.0), w(n, 1, 1.0), r(p, p, 8.1);
-    const auto own = static_cast<std::size_t>(p);
-    const auto at = [](int j) { return static_cast<std::size_t>(j - 1); };
-    fill(table, random, round / 9 % 2 == 1);
-    matrix m(p, 1, 8.1), s(p, 1, 8.1), v(p, 1, 8.1);
+    SCOPED_TRACE(round);
+    const int n = rowCounts[round % 9], p = columnCounts[round % 8], h = p / 2, q = p - h;
+    matrix table(n + random.below(2), p, 0.0), r(p, p, 8.1), m(p, 1, 8.1), s(p, 1, 8.1), v(p, 1, 8.1);
+    fillColumns(table, random, round / 9 % 2 * 2);
     matrix *a = &table, *result = &r, *means = &m, *stdevs = &s, *variances = &v;
-    for (int i = 0; i < n && kind > 1; ++i) {
-      w.setElement(i, kind == 3 && random.below(4) == 0 ? 0.0 : random.uniform(1.0, 3.1));
-    }
-    const matrix* weights = kind == 0 ? nullptr : &w;
-    std::vector<short> flags(static_cast<std::size_t>(n) + 1);
-    for (short& flag : flags) flag = static_cast<short>(random.below(4) == 0 ? random.below(3) - 1 : 0);
+    const auto owner = randomWeights(random, n);
+    const matrix* weights = owner.get();
+    const std::vector<short> flags = randomFlags(random, n);
     const short* rows = random.below(2) == 0 ? nullptr : flags.data();
-    const auto u = static_cast<short>(random.below(3) - 1), f = static_cast<short>(random.below(3) - 1);
     const auto option = [&] { return static_cast<short>(random.below(3) - 1); };
-    const short correlation = option(), centre = option(), standardize = option();
+    const short u = option(), f = option(), correlation = option(), centre = option(), standardize = option();
 
-    std::vector<std::vector<CoMoment>> pair(own);
-    std::vector<double> expected(own * own), expectedMeans, expectedS, expectedV;
-    for (int j = 1; j <= p; ++j) {
-      for (int i = 1; i <= p; ++i) {
-        pair[at(j)].push_back(byDefinition(table, std::min(i, j), std::max(i, j), n, rows, weights, u, f));
-      }
-      const CoMoment& self = pair[at(j)][at(j)];
-      expectedMeans.push_back(self.mean);
-      expectedV.push_back(self.divisor > 0.0 ? self.covariance : kMissing);
-      expectedS.push_back(self.divisor > 0.0 ? std::sqrt(self.covariance) : kMissing);
+    const auto pair = [&](int i, int j) {
+      return WeightedUpdate(table, i, j, n, weights, [&, i, j](int k) {
+        return (rows == nullptr || rows[k] == 0) && !table.getMissing(k, i) && !table.getMissing(k, j);
+      });
+    };
+    const auto covariance = [&](int i, int j) {
+      const WeightedUpdate sums = pair(i, j);
+      return sums.count == 0.0 ? kMissing : sums.products / sums.divisor(u, f);
+    };
+    matrix own(p, 1, 0.0), expectedM(p, 1, kMissing), expectedS(p, 1, kMissing), expectedV(p, 1, kMissing);
+    for (int j = 0; j < p; ++j) {
+      const WeightedUpdate sums = pair(j, j);
+      own.values[j] = covariance(j, j);
+      if (sums.count > 0.0) expectedM.values[j] = sums.meanA;
+      if (sums.count == 0.0 || sums.divisor(u, f) <= 0.0) continue;
+      expectedS.values[j] = std::sqrt(expectedV.values[j] = own.values[j]);
     }
-    for (std::size_t k = 0; k < own * own; ++k) {
-      const std::size_t i = k % own, j = k / own;
-      const double c = pair[i][j].covariance, vi = pair[i][i].covariance, vj = pair[j][j].covariance;
-      expected[k] = correlation == 0 ? c : correlationOf(c, vi, vj, i == j);
+    std::vector<double> expected;
+    for (int k = 0; k < p * p; ++k) {
+      const int i = std::min(k % p, k / p), j = std::max(k % p, k / p);
+      const double c = covariance(i, j), r2 = correlationOf(c, own.values[i], own.values[j], i == j);
+      expected.push_back(correlation == 0 ? c : r2);
     }
     EXPECT_EQ(M_CovCorr(a, n, p, result, correlation, rows, weights, u, f), 0);
-    EXPECT_TRUE(bits::equal(cellsOf(r), expected));
+    EXPECT_TRUE(bits::equal(markedCellsOf(r), expected));
     for (int k = 0; k < p * p; ++k) EXPECT_EQ(r.missing[k], r.values[k] == kMissing);
 
-    // The first columns with the others, whose covariances are a part of the table.
-    const int h = p / 2, q = p - h;
+    // The first columns with the others, whose covariances the table holds.
     matrix right(table.nX, q, table.values + table.nX * h, true, 0, 0), r3(h, q, 8.1), *result3 = &r3;
     std::copy_n(table.missing + table.nX * h, table.nX * q, right.missing);
     const auto determination = static_cast<short>(random.below(2));
@@ -130,21 +93,20 @@ TEST(Covariance, EqualsItsDefinitionBitForBitWithAndWithoutMissingCells) {
       EXPECT_TRUE(bits::equal(r3.values[k], determination == 0 || c == kMissing ? c : c * c));
     }
 
-    std::vector<double> cells(table.values, table.values + table.nX * p);
-    for (int k = 0; k < table.nX * p && (centre == -1 || standardize == -1); ++k) {
-      if (table.missing[k] || k % table.nX >= n) continue;
-      const std::size_t j = at(k / table.nX + 1);
-      double& x = cells[static_cast<std::size_t>(k)];
-      x -= expectedMeans[j] == kMissing ? 0.0 : expectedMeans[j];
-      if (standardize == -1) x = expectedS[j] > 0.0 ? x / expectedS[j] : 0.0;
+    const auto cells = copyOf(table);
+    for (int k = 0; k < table.nX * p && (centre == kTrue || standardize == kTrue); ++k) {
+      const double mean = expectedM.values[k / table.nX], sd = expectedS.values[k / table.nX];
+      if (k % table.nX >= n) continue;
+      const double d = cells->values[k] - (mean == kMissing ? 0.0 : mean);
+      cells->setElement(k, standardize != kTrue ? d : sd > 0.0 ? d / sd : 0.0);
     }
     M_CovCorrAndMeanStDevVar(a, n, p, result, means, stdevs, variances, correlation, rows, weights, u, f,
                              centre, standardize);
-    EXPECT_TRUE(bits::equal(cellsOf(r), expected));
-    EXPECT_TRUE(bits::equal(cellsOf(m), expectedMeans));
-    EXPECT_TRUE(bits::equal(cellsOf(s), expectedS));
-    EXPECT_TRUE(bits::equal(cellsOf(v), expectedV));
-    EXPECT_TRUE(bits::equal({table.values, table.values + table.nX * p}, cells));
+    EXPECT_TRUE(bits::equal(markedCellsOf(r), expected));
+    EXPECT_TRUE(bits::equal(markedCellsOf(m), cellsOf(expectedM)));
+    EXPECT_TRUE(bits::equal(markedCellsOf(s), cellsOf(expectedS)));
+    EXPECT_TRUE(bits::equal(markedCellsOf(v), cellsOf(expectedV)));
+    EXPECT_TRUE(bits::equal(cellsOf(table), cellsOf(*cells)));
   }
 }
 
@@ -152,51 +114,87 @@ TEST(Covariance, ScatterAndDistancesEqualTheirDefinition) {
   const double cells[] = {2.385, -7.7, 0.3, 9.1, 5.5, -3.1}, groups[] = {4.5, -1.0, 4.5};
   const double powersOfTwo[] = {0.5, 0.0, 4.0};  // the order of the factors shows in no bit
   const matrix a(3, 2, cells, true, 0, 0), w(3, 1, powersOfTwo, true, 0, 0), g(3, 1, groups, true, 0, 0);
+  const WorkerCheck expect = {3, 2, 0};
+  const auto total = [](int count, auto term) {
+    double sum = 0.0;
+    for (int k = 1; k <= count; ++k) sum += term(k);
+    return sum;
+  };
   for (double wanted : {4.5, -1.0, 7.7}) {
-    matrix scatter(2, 2, 8.1), *result = &scatter;
-    M_Inertie_W(&a, 3, 2, &w, &g, wanted, result);
-    for (int k = 0; k < 4; ++k) {
-      double sum = 0.0;
-      for (int i = 0; i < 3; ++i) {
-        const double term = w.getElement(i) * a.getElement(i, k % 2) * a.getElement(i, k / 2);
-        sum += wanted == -1.0 || groups[i] == wanted ? term : 0.0;
-      }
-      EXPECT_TRUE(bits::equal(scatter.values[k], sum)) << wanted;
-    }
+    const auto weight = [&](int k) {
+      return wanted == -1.0 || g.vbget(k, 1) == wanted ? w.vbget(k, 1) : 0.0;
+    };
+    const auto scatter = [&](int i, int j) {
+      return total(3, [&](int k) { return weight(k) * a.vbget(k, i) * a.vbget(k, j); });
+    };
+    expect("pp scatter", scatter, [&](int i, int j, C c) { M_Inertie_W(&a, i, j, &w, &g, wanted, c); });
   }
-  matrix rows(3, 3, 8.1), columns(2, 2, 8.1), *byRows = &rows, *byColumns = &columns;
-  M_EuclidDist2(&a, 3, 2, byRows, &w, -1);
-  M_EuclidDist2(&a, 3, 2, byColumns, &w, 0);
-  const double d = 2.385 - 9.1, e = 0.3 + 3.1;
-  EXPECT_TRUE(bits::equal(cellsOf(columns), {0.0, 0.5 * (d * d) + 4.0 * (e * e),  //
-                                             0.5 * (d * d) + 4.0 * (e * e), 0.0}));
-  for (int k = 0; k < 9; ++k) {
-    const double x = cells[k % 3] - cells[k / 3];  // the second column has weight 0
-    EXPECT_TRUE(bits::equal(rows.values[k], 0.5 * (x * x)));
-  }
+  const auto term = [&](int k, double d) { return w.vbget(k, 1) * (d * d); };
+  const auto rows = [&](int i, int j) {
+    return total(2, [&](int k) { return term(k, a.vbget(i, k) - a.vbget(j, k)); });
+  };
+  const auto columns = [&](int i, int j) {
+    return total(3, [&](int k) { return term(k, a.vbget(k, i) - a.vbget(k, j)); });
+  };
+  expect("nn rows", rows, [&](int i, int j, C c) { M_EuclidDist2(&a, i, j, c, &w, -1); });
+  expect("pp columns", columns, [&](int i, int j, C c) { M_EuclidDist2(&a, i, j, c, &w, 0); });
 }
 
 TEST(Covariance, SquareTablesAreRecognizedTransformedAndMadeSymmetric) {
   const double similarity[] = {5.5, 2.385, 1.25, 3.5, 7.25, -0.5, 0.75, 4.5, 6.0};
-  for (int type : {0, 1, 2, 3}) {
-    matrix t(3, 3, similarity, true, 0, 0);
+  for (int type : {-1, 0, 1, 2, 3}) {
+    matrix t(3, 3, similarity, true, 0, 0), before(3, 3, similarity, true, 0, 0);
+    for (matrix* m : {&t, &before}) m->setElement(0, 2, kMissing), m->setMissing(1, true);
     M_Symmetrize(&t, 3, type);
     for (int k = 0; k < 9; ++k) {
-      const double own = similarity[k], mirror = similarity[k / 3 + 3 * (k % 3)];
+      const double own = before.values[k], mirror = before.values[k / 3 + 3 * (k % 3)];
+      const double mean = own == kMissing || mirror == kMissing ? kMissing : (own + mirror) / 2.0;
       const bool takes = (type == 1 && k % 3 > k / 3) || (type == 2 && k % 3 < k / 3);
-      EXPECT_EQ(t.getElement(k), type == 0 ? (own + mirror) / 2.0 : takes ? mirror : own);
+      EXPECT_EQ(t.values[k], before.missing[k] ? own : type == 0 ? mean : takes ? mirror : own) << k;
     }
   }
   matrix t(3, 3, similarity, true, 0, 0), zero(3, 3, 0.0), negative(2, 2, 0.0), *s = &t;
   EXPECT_EQ(M_CheckIfSimOrDissim(s, 3, 0), 1);
   M_TransformSimToDissim(s, 3);
-  EXPECT_TRUE(bits::equal(cellsOf(t), {0.0, 2.0, 4.75, 2.0, 0.0, 2.75, 4.75, 2.75, 0.0}));
+  EXPECT_TRUE(holds(t, 3, 3, {0.0, 2.0, 4.75, 2.0, 0.0, 2.75, 4.75, 2.75, 0.0}));
   EXPECT_EQ(M_CheckIfSimOrDissim(s, 3, 1), 0);
   for (int apriori : {0, 1}) EXPECT_EQ(M_CheckIfSimOrDissim(&zero, 3, apriori), apriori);
   t.setElement(0, 2, -2.385);
   EXPECT_EQ(M_CheckIfSimOrDissim(s, 3, 1), -1);  // positive and negative about a diagonal of 0
   negative.setElement(1, 0, -2.385);
   EXPECT_EQ(M_CheckIfSimOrDissim(&negative, 2, 0), 1);
+}
+
+TEST(Covariance, SquareTablesWithMissingCells) {
+  const double similarity[] = {5.5, 2.385, 1.25, kMissing, 7.25, -0.5, 0.75, 4.5, 6.0};
+  matrix t(3, 3, similarity, true, 0, 0), *s = &t, zero(3, 3, 0.0), r(3, 3, 8.1), *correlations = &r;
+  t.setMissing(1, 1, true);  // and so it stays
+  M_TransformSimToDissim(s, 3);
+  EXPECT_TRUE(holds(t, 3, 3, {0.0, kMissing, 4.75, kMissing, 7.25, kMissing, 4.75, kMissing, 0.0}));
+  zero.setMissing(2, true);
+  EXPECT_EQ(M_CheckIfSimOrDissim(&zero, 3, 1), -1);
+  zero.setMissing(2, false), zero.setElement(2, kMissing);
+  EXPECT_EQ(M_CheckIfSimOrDissim(&zero, 3, 1), -1);
+  const double covariances[] = {4.0, 1.0, kMissing, 1.0, kMissing, 2.0, 3.0, 2.0, 9.0};
+  const matrix c(3, 3, covariances, true, 0, 0);
+  M_CorrMatFromCovMat(&c, 3, correlations);
+  EXPECT_TRUE(holds(r, 3, 3, {1.0, kMissing, kMissing, kMissing, kMissing, kMissing, 0.5, kMissing, 1.0}));
+  EXPECT_EQ(flagsOf(r), "011111010");
+}
+
+TEST(Covariance, PreparesItsResultWithoutCells) {
+  const WorkerCheck expect = {3, 2, 0};
+  matrix t(3, 2, 2.385), *a = &t, *m[3] = {};
+  const auto covCorr = [&](int i, int j, C c) { M_CovCorr(a, i, j, c, 0, nullptr, a, 0, 0); };
+  const auto matMat = [&](int i, int j, C c) { M_CorrMatMat(a, i, j, a, 2, c, nullptr, a, 1, 0, 0, 0); };
+  const auto all = [&](int i, int j, C c) {
+    M_CovCorrAndMeanStDevVar(a, i, j, c, m[0], m[1], m[2], 1, nullptr, a, 0, 0, -1, -1);
+    for (matrix*& made : m) delete std::exchange(made, nullptr);
+  };
+  expect.withoutCells("pp ", covCorr, kMissing);
+  expect.withoutCells("p2 ", matMat, kMissing);
+  expect.withoutCells("pp ", all, kMissing);
+  EXPECT_TRUE(holds(t, 3, 2, std::vector<double>(6, 2.385)));
 }
 
 TEST(Covariance, EqualsPublishedValues) {

@@ -1,8 +1,7 @@
 // Means and sums of squares of several columns over the same rows. Compiled once for each instruction set, as
 // product.cpp is.
 
-#include "kernels/isa/vectors.h"
-#include "kernels/kernels.h"
+#include "kernels/isa/functions.h"
 
 namespace kernels::KAV_ISA {
 

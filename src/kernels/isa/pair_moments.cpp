@@ -1,15 +1,11 @@
 // Co-moments of one column with several others, each pair over the rows where both are present. Compiled once
 // for each instruction set, as product.cpp is.
 
-#include "kernels/isa/vectors.h"
-#include "kernels/kernels.h"
+#include "kernels/isa/functions.h"
 
 namespace kernels::KAV_ISA {
 
 namespace {
-
-/// Two vectors hide each other's divisions; eight registers have room for one.
-constexpr Index kVectors = sizeof(void*) == 8 ? 2 : 1;
 
 inline Vector where(Bits mask, Vector x) {
   return reinterpret_cast<Vector>(mask & reinterpret_cast<Bits>(x));
@@ -17,12 +13,10 @@ inline Vector where(Bits mask, Vector x) {
 
 }  // namespace
 
-extern const int pairLanes;
-const int pairLanes = static_cast<int>(kVectors * kLanes);
-
 void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums) {
-  Vector total[kVectors], count[kVectors], products[kVectors], meanA[kVectors], meanB[kVectors];
-  for (Index v = 0; v < kVectors; ++v) {
+  Vector total[kPairVectors], count[kPairVectors], products[kPairVectors], meanA[kPairVectors],
+      meanB[kPairVectors];
+  for (Index v = 0; v < kPairVectors; ++v) {
     const Index at = b + v * kLanes;
     total[v] = load(sums.total + at);
     count[v] = load(sums.count + at);
@@ -36,7 +30,7 @@ void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const
     const double weight = rows.weights[r];
     const Vector w = spread(weight), x = spread(rows.x[row + a]);
     const bool squareIsItself = weight * weight == weight;
-    for (Index v = 0; v < kVectors; ++v) {
+    for (Index v = 0; v < kPairVectors; ++v) {
       const Index at = row + b + v * kLanes;
       const Bits present = *reinterpret_cast<const Bits*>(rows.present + at);
       total[v] += where(present, w);
@@ -51,7 +45,7 @@ void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const
       meanB[v] += where(present, ofMean * dB);
     }
   }
-  for (Index v = 0; v < kVectors; ++v) {
+  for (Index v = 0; v < kPairVectors; ++v) {
     const Index at = b + v * kLanes;
     store(sums.total + at, total[v]);
     store(sums.count + at, count[v]);

@@ -1,8 +1,7 @@
 // The product of two tables. Compiled once for each instruction set, see vectors.h. Everything else has
 // internal linkage.
 
-#include "kernels/isa/vectors.h"
-#include "kernels/kernels.h"
+#include "kernels/isa/functions.h"
 #include "kernels/tiles.h"
 
 namespace kernels::KAV_ISA {

@@ -1,31 +1,40 @@
-// Back substitution for several right-hand sides. Compiled once for each instruction set, as product.cpp is.
+// Rows that take off multiples of other rows, some cells of each side by side. Compiled once for each
+// instruction set, as product.cpp is.
 
-#include "kernels/isa/vectors.h"
-#include "kernels/kernels.h"
+#include "kernels/isa/functions.h"
 
 namespace kernels::KAV_ISA {
 
 namespace {
 
-/// Enough sums beside each other to hide the latency of a subtraction.
-constexpr int kVectors = KAV_VECTOR_BYTES == 16 && sizeof(void*) == 8 ? 8 : 4;
+constexpr Index kSides = kSideVectors * kLanes;
+
+void subtract(const RowTerms& terms, Vector* sums) {
+  const double* factor = terms.factors;
+  const double* cells = terms.rows;
+  for (Index k = 0; k < terms.count; ++k) {
+    for (Index v = 0; v < kSideVectors; ++v) sums[v] -= load(cells + v * kLanes) * *factor;
+    factor += terms.factorStep;
+    cells += terms.rowStep;
+  }
+}
 
 }  // namespace
 
-extern const int sides;
-const int sides = static_cast<int>(kVectors * kLanes);
+void subtractRows(const RowTerms& terms) {
+  Vector sums[kSideVectors];
+  for (Index v = 0; v < kSideVectors; ++v) sums[v] = load(terms.row + v * kLanes);
+  subtract(terms, sums);
+  for (Index v = 0; v < kSideVectors; ++v) store(terms.row + v * kLanes, sums[v]);
+}
 
 void backSubstitute(const double* u, std::ptrdiff_t n, double* x) {
-  for (std::ptrdiff_t i = n - 1; i >= 0; --i) {
-    const double* factors = u + n * i;
-    Vector* row = reinterpret_cast<Vector*>(x + sides * i);
-    Vector sums[kVectors];
-    for (int v = 0; v < kVectors; ++v) sums[v] = row[v];
-    for (std::ptrdiff_t k = i + 1; k < n; ++k) {
-      const Vector* known = reinterpret_cast<const Vector*>(x + sides * k);
-      for (int v = 0; v < kVectors; ++v) sums[v] -= known[v] * factors[k];
-    }
-    for (int v = 0; v < kVectors; ++v) row[v] = sums[v] / factors[i];
+  for (Index i = n - 1; i >= 0; --i) {
+    double* row = x + kSides * i;
+    Vector sums[kSideVectors];
+    for (Index v = 0; v < kSideVectors; ++v) sums[v] = load(row + v * kLanes);
+    subtract({row, u + n * i + i + 1, 1, row + kSides, kSides, n - i - 1}, sums);
+    for (Index v = 0; v < kSideVectors; ++v) store(row + v * kLanes, sums[v] / u[n * i + i]);
   }
 }
 

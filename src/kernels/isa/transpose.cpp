@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-#include "kernels/isa/vectors.h"
-#include "kernels/kernels.h"
+#include "kernels/isa/functions.h"
 
 namespace kernels::KAV_ISA {
 

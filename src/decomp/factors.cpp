@@ -1,0 +1,103 @@
+// What factor analyses make of eigenvalues and coordinates.
+
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <vector>
+
+#include "algebra/elementwise.h"
+#include "core/block.h"
+#include "core/results.h"
+#include "core/thresholds.h"
+#include "decomp/eigen.h"
+#include "platform/scalar.h"
+#include "stats/vector_sums.h"
+
+namespace {
+
+/// Eigenvalues that are kept. Not dropping looks at the last one alone, and zeroes it: the scan would come
+/// back to it for ever.
+int keptOf(matrix* values, int n, short drop, double minimum) {
+  int kept = n;
+  while (kept > 1) {
+    const double last = values == nullptr ? kOutside : values->getElement(kept - 1);
+    if (last >= minimum) break;
+    if (drop != kFalse) {
+      --kept;
+    } else {
+      if (values != nullptr) values->setElement(kept - 1, 0, 0.0);
+      break;
+    }
+  }
+  return kept;
+}
+
+/// newCells(first + i, k) = of(cells(i, k), factor k)
+template <class Of>
+void rescale(const matrix* cells, int rows, int axes, const std::vector<double>& factors, matrix* newCells,
+             int first, Of of) {
+  if (newCells == nullptr || rows < 1 || axes < 1) return;
+  const block::Values from(cells, rows, axes);
+  for (int k = 0; k < axes; ++k) {
+    for (int i = 0; i < rows; ++i) {
+      newCells->setElement(first + i, k, of(from.column(k)[i], factors[static_cast<std::size_t>(k)]));
+    }
+  }
+}
+
+}  // namespace
+
+int FilterEigen(matrix*& values, int n, short drop, double minimum, double cumulative, int most,
+                double kaiser, int& kept, int& selected, matrix*& percentages) {
+  kept = keptOf(values, std::max(n, 0), drop, minimum);
+  matrix::matCheck(percentages, n, 1, 0.0);
+  const block::Values cells(values, n);
+  const double total = V_Sum2(values, kept) * 0.01;
+  for (int k = 0; k < kept; ++k) percentages->setElement(k, 0, cells[k] / total);
+  int byPercentage = kept;
+  double sum = 0.0;
+  for (int k = 0; k < kept && cumulative > 0.0 && byPercentage == kept; ++k) {
+    sum += cells[k] / total;
+    if (sum >= cumulative) byPercentage = k + 1;
+  }
+  const int byCount = most > 0 ? most : kept;
+  int byKaiser = kept;
+  for (int k = 0; k < kept && kaiser > 0.0; ++k) byKaiser -= cells[k] < kaiser + kZero ? 1 : 0;
+  selected = std::min({kept, byPercentage, byCount, byKaiser});
+  return 0;
+}
+
+void cComputeCosines(const matrix* f, int n, int q, matrix*& cosines) {
+  if (cosines == nullptr) results::prepare(cosines, n, q);
+  if (n < 1 || q < 1) return;
+  const block::Values cells(f, n, q);
+  matrix squares(n, 1, 0.0);
+  M_SquaredRows(f, n, q, &squares);
+  block::Target target(cosines, n, q);
+  for (int j = 0; j < q; ++j) {
+    for (int i = 0; i < n; ++i) {
+      const double x = cells.column(j)[i];
+      if (squares.values[i] > 0.0) target.column(j)[i] = x * x / squares.values[i];
+    }
+  }
+  target.store();
+}
+
+void BiplotTransData(const matrix* scores, const matrix* supplementary, const matrix* loadings, int n,
+                     int nSupp, int p, int axes, const matrix* values, double scale, double exponent,
+                     matrix*& newScores, matrix*& newLoadings) {
+  const int active = std::max(n, 0), others = supplementary == nullptr ? 0 : std::max(nSupp, 0);
+  if (others > std::numeric_limits<int>::max() - active) throw std::bad_alloc();
+  matrix::matCheck(newScores, active + others, axes, 0.0);
+  matrix::matCheck(newLoadings, p, axes, 0.0);
+  const block::Values cells(values, axes);
+  // 0.0 stands for an axis that is left out.
+  std::vector<double> factors;
+  for (int k = 0; k < axes; ++k)
+    factors.push_back(cells[k] == 0.0 ? 0.0 : scalar::power(cells[k], exponent) * scale);
+  const auto times = [](double x, double g) { return g == 0.0 ? 0.0 : x * g; };
+  const auto divided = [](double x, double g) { return g == 0.0 ? 0.0 : x / g; };
+  rescale(scores, active, axes, factors, newScores, 0, times);
+  rescale(supplementary, others, axes, factors, newScores, active, times);
+  rescale(loadings, p, axes, factors, newLoadings, 0, divided);
+}

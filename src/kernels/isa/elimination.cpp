@@ -1,0 +1,73 @@
+// Columns and rows that take off multiples of a pivot's. Compiled once for each instruction set, as
+// product.cpp is.
+
+#include "kernels/isa/functions.h"
+
+namespace kernels::KAV_ISA {
+
+namespace {
+
+/// Columns that use the loaded factors together.
+constexpr Index kColumns = sizeof(void*) == 8 ? 4 : 2;
+
+inline Vector masked(Bits mask, Vector x) {
+  return reinterpret_cast<Vector>(mask & reinterpret_cast<Bits>(x));
+}
+
+/// The larger one; NaN in x is passed over.
+inline Vector larger(Vector x, Vector most) { return x > most ? x : most; }
+
+inline double masked(std::uint64_t mask, double x) {
+  return __builtin_bit_cast(double, mask& __builtin_bit_cast(std::uint64_t, x));
+}
+
+template <Index columns>
+void eliminateColumns(const Elimination& e, Index first) {
+  double* x[columns];
+  Vector most[columns] = {};
+  for (Index c = 0; c < columns; ++c) x[c] = e.x + e.stride * (first + c);
+  Index i = 0;
+  for (; e.rows - i >= kLanes; i += kLanes) {
+    const Vector factors = load(e.factors + i);
+    const Bits counts = *reinterpret_cast<const Bits*>(e.counts + i);
+    for (Index c = 0; c < columns; ++c) {
+      const Vector cells = load(x[c] + i) - factors * e.pivots[first + c];
+      store(x[c] + i, cells);
+      most[c] = larger(masked(counts, cells), most[c]);
+    }
+  }
+  for (Index c = 0; c < columns; ++c) {
+    double largest = 0.0;
+    for (Index lane = 0; lane < kLanes; ++lane) largest = most[c][lane] > largest ? most[c][lane] : largest;
+    for (Index k = i; k < e.rows; ++k) {
+      x[c][k] -= e.factors[k] * e.pivots[first + c];
+      const double size = masked(e.counts[k], x[c][k]);
+      largest = size > largest ? size : largest;
+    }
+    e.largest[first + c] = largest;
+  }
+}
+
+}  // namespace
+
+void eliminate(const Elimination& e) {
+  Index column = 0;
+  for (; e.columns - column >= kColumns; column += kColumns) eliminateColumns<kColumns>(e, column);
+  for (; column < e.columns; ++column) eliminateColumns<1>(e, column);
+}
+
+void sweepRow(double* x, double a, const double* b, std::ptrdiff_t n, double threshold) {
+  const Vector least = spread(threshold), factor = spread(a);
+  const Bits size = ~reinterpret_cast<Bits>(spread(-0.0));
+  Index j = 0;
+  for (; n - j >= kLanes; j += kLanes) {
+    const Vector cells = load(x + j) - factor * load(b + j);
+    store(x + j, masked(~Bits(masked(size, cells) < least), cells));
+  }
+  for (; j < n; ++j) {
+    const double cell = x[j] - a * b[j];
+    x[j] = __builtin_fabs(cell) < threshold ? 0.0 : cell;
+  }
+}
+
+}  // namespace kernels::KAV_ISA

@@ -1,0 +1,28 @@
+// What the sources for one instruction set define for its table.
+#pragma once
+
+#include "kernels/isa/vectors.h"
+#include "kernels/kernels.h"
+
+namespace kernels::KAV_ISA {
+
+void product(const Product& p, double* scratch);
+void transpose(const Transposition& t);
+void columnMoments(const ColumnRows& rows);
+void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const PairSums& sums);
+void subtractRows(const RowTerms& terms);
+void backSubstitute(const double* u, std::ptrdiff_t n, double* x);
+void eliminate(const Elimination& e);
+void sweepRow(double* x, double a, const double* b, std::ptrdiff_t n, double threshold);
+
+namespace {
+
+/// Two vectors hide each other's divisions; eight registers have room for one.
+constexpr Index kPairVectors = sizeof(void*) == 8 ? 2 : 1;
+
+/// Enough sums beside each other to hide the latency of a subtraction.
+constexpr Index kSideVectors = sizeof(void*) != 8 ? 4 : KAV_VECTOR_BYTES == 16 ? 8 : 6;
+
+}  // namespace
+
+}  // namespace kernels::KAV_ISA

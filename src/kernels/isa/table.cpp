@@ -1,0 +1,20 @@
+// The table of one instruction set. Compiled once for each, as product.cpp is.
+
+#include "kernels/isa/functions.h"
+
+namespace kernels::KAV_ISA {
+
+extern const Table table;
+const Table table = {KAV_ISA_NAME,
+                     product,
+                     transpose,
+                     columnMoments,
+                     static_cast<int>(kPairVectors* kLanes),
+                     pairMoments,
+                     static_cast<int>(kSideVectors* kLanes),
+                     subtractRows,
+                     backSubstitute,
+                     eliminate,
+                     sweepRow};
+
+}  // namespace kernels::KAV_ISA
