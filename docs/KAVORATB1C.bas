@@ -99,11 +99,13 @@ Option Explicit
   Public Declare PtrSafe Sub VB_V_ProductV1TrV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_V_ReverseDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oVect As Double)
   Public Declare PtrSafe Sub VB_V_ReverseBool Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long, ByRef oVect As Boolean)
+  Public Declare PtrSafe Function VB_V_Gauss Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByRef ioVect As Double) As Long
   Public Declare PtrSafe Function VB_V_IsInInterval Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iLower As Double, ByVal iUpper As Double, ByVal iStrictly As Boolean, ByVal iIgnoreMissing As Boolean) As Boolean
   Public Declare PtrSafe Function VB_V_NbIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ival As Double) As Double
   Public Declare PtrSafe Function VB_V_SumIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
   Public Declare PtrSafe Function VB_V_MeanIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
   Public Declare PtrSafe Function VB_V_VarIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double, ByVal iBiased As Boolean) As Double
+  Public Declare PtrSafe Function VB_M_Sweep Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal k As Long) As Long
   Public Declare PtrSafe Function VB_M_Transpose Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oTransMat As Double) As Long
   Public Declare PtrSafe Function VB_M_Transpose2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long) As Long
   Public Declare PtrSafe Function VB_M_Inverse1 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef oInvMat As Double, ByVal Eps As Double) As Long
@@ -111,6 +113,7 @@ Option Explicit
   Public Declare PtrSafe Function VB_M_ProductAB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double) As Long
   Public Declare PtrSafe Function VB_M_ProductABMissing Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double) As Long
   Public Declare PtrSafe Function VB_M_ProductBV Lib "KAVORATB1C.dll" (ByRef iBMat As Double, ByVal n As Long, ByVal p As Long, ByRef iAVec As Double, ByRef oCVec As Double) As Long
+  Public Declare PtrSafe Function VB_M_Eigen Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByRef oEigenVal As Double, ByRef oEigenVect As Double, ByVal n As Long, ByVal iSort As Boolean) As Long
   Public Declare PtrSafe Function VB_M_MeanStDev Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean, ByVal MissingPerCol As Boolean) As Long
   Public Declare PtrSafe Function VB_M_Mean Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef iMissing As Boolean, ByRef w As Double) As Long
   Public Declare PtrSafe Function VB_M_MeanStDevVar Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Long
@@ -145,7 +148,13 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_APlusVal Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal ival As Double, ByRef oAPlusVal As Double)
   Public Declare PtrSafe Sub VB_M_Square Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
   Public Declare PtrSafe Function VB_M_Trace Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long) As Double
+  Public Declare PtrSafe Function VB_M_DeterminantTriang Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef Problem As Boolean) As Double
+  Public Declare PtrSafe Function VB_M_Determinant Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef Problem As Boolean) As Double
+  Public Declare PtrSafe Sub VB_M_LUDecomp Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef indx As Long, ByRef d As Double, ByRef Problem As Boolean)
+  Public Declare PtrSafe Function VB_M_CholDecomp Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef oMat As Double) As Long
   Public Declare PtrSafe Sub VB_M_EuclidDist2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oDistMat As Double, ByRef w As Double, ByVal iByRows As Boolean)
+  Public Declare PtrSafe Function VB_M_IsPositive Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByVal iStrictly As Boolean) As Boolean
+  Public Declare PtrSafe Sub VB_M_LogMatrix Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean)
   Public Declare PtrSafe Sub VB_M_SumByCols Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare PtrSafe Sub VB_M_SumByRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare PtrSafe Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
@@ -159,6 +168,8 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_Symmetrize Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iType As Long)
   Public Declare PtrSafe Function VB_M_CheckIfSimOrDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iApriori As Long) As Long
   Public Declare PtrSafe Sub VB_M_TransformSimToDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long)
+  Public Declare PtrSafe Function VB_M_InverseTriang Lib "KAVORATB1C.dll" (ByRef iTriangMat As Double, ByVal n As Long, ByVal iIsLower As Boolean, ByRef oInvMat As Double, ByVal Eps As Double) As Long
+  Public Declare PtrSafe Sub VB_M_SVDecomp Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByVal p As Long, ByRef s As Double, ByRef u As Double, ByVal ldu As Long, ByRef v As Double, ByVal ldv As Long, ByVal job As Long, ByRef info As Long)
   Public Declare PtrSafe Sub VB_M_Center Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_CenterW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_Center2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
@@ -175,14 +186,19 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_ProductADiagV Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_SquaredRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
   Public Declare PtrSafe Sub VB_M_SquaredColumns Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
+  Public Declare PtrSafe Function VB_M_DeterminantCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef Problem As Boolean) As Double
   Public Declare PtrSafe Sub VB_M_Min Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMinVect As Double)
   Public Declare PtrSafe Sub VB_M_Max Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMaxVect As Double)
+  Public Declare PtrSafe Function VB_M_CholDecompCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef oMat As Double) As Long
   Public Declare PtrSafe Sub VB_M_CorrMatFromCovMat Lib "KAVORATB1C.dll" (ByRef iCovMat As Double, ByVal p As Long, ByRef oCorrMat As Double)
   Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iBMat As Double, ByRef iVect2 As Double) As Double
   Public Declare PtrSafe Sub VB_M_ProductDesignAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByVal iConstraintType As Long, ByRef w As Double, ByRef oInterFreqCat As Double)
+  Public Declare PtrSafe Sub VB_M_Log10Matrix Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
   Public Declare PtrSafe Sub VB_M_ProductDiagVA Lib "KAVORATB1C.dll" (ByRef iDiagVect As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_ProductDiagV1ADiagV2 Lib "KAVORATB1C.dll" (ByRef iDiagVect1 As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef iDiagVect2 As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Function VB_M_Gauss Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByVal p As Long, ByRef ioMat2 As Double) As Long
   Public Declare PtrSafe Sub VB_M_StandardizeW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal Unbiased As Boolean, ByVal isBiasOne As Boolean, ByRef oMat As Double)
+  Public Declare PtrSafe Function VB_M_InvGeneralized Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByRef oInvMat As Double, ByVal iEps As Double, ByRef oRank As Long) As Long
   Public Declare PtrSafe Sub VB_M_ProductTrADiagVA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_ProductADiagVTrA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare PtrSafe Function VB_SortQVectorLng Lib "KAVORATB1C.dll" (ByRef ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
@@ -206,6 +222,12 @@ Option Explicit
   Public Declare PtrSafe Function VB_CorrelPearson Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByRef iVector2 As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
   Public Declare PtrSafe Function VB_MAPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
   Public Declare PtrSafe Function VB_RMSE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByVal nY As Long, ByVal p As Long, ByRef PredY As Double, ByVal DF As Long) As Double
+  Public Declare PtrSafe Sub VB_FilterEigen Lib "KAVORATB1C.dll" (ByRef iEigenValues As Double, ByVal p As Long, ByVal iDoFilter As Boolean, ByVal iFilter As Double, ByVal iMinPerc As Double, ByVal iMaxFact As Long, ByVal iMaxVal As Double, ByRef oNbEigen As Long, ByRef oDispEigen As Long, ByRef Percent As Double)
+  Public Declare PtrSafe Sub VB_CheckTolerance Lib "KAVORATB1C.dll" (ByRef R As Double, ByVal p As Long, ByVal NbFactors As Long, ByRef FactActive As Long, ByRef FactType As Long, ByRef FactSubParents As Long, ByVal Tolerance As Double, ByVal FastRemoval As Boolean, ByVal iCheckall As Boolean, ByVal WithAnEq0 As Boolean, ByRef oNotToleratedVars As Long, ByRef oTolerances As Double, ByRef oVIF As Double)
+  Public Declare PtrSafe Sub ComputeCosines Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oCosines As Double)
+  Public Declare PtrSafe Sub VB_BiplotTransData Lib "KAVORATB1C.dll" (ByRef iScores As Double, ByRef iScoresSupp As Double, ByRef iLoadings As Double, ByVal n As Long, ByVal nSupp As Long, ByVal p As Long, ByVal iNbEigen As Long, ByRef iEigenValues As Double, ByVal iScale As Double, ByVal iExpo As Double, ByRef oNewScores As Double, ByRef oNewLoadings As Double)
+  Public Declare PtrSafe Function CleanConstraintsAndInvert Lib "KAVORATB1C.dll" (ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv As Double, ByRef oInvDeriv As Double) As Long
+  Public Declare PtrSafe Function CleanConstraintsAndInvertTriang Lib "KAVORATB1C.dll" (ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv As Double, ByVal iIsLower As Boolean, ByRef oInvDeriv As Double) As Long
   Public Declare PtrSafe Function VB_MPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
   Public Declare PtrSafe Function VB_MAE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
 
@@ -303,11 +325,13 @@ Option Explicit
   Public Declare Sub VB_V_ProductV1TrV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iVect2 As Double, ByRef oMat As Double)
   Public Declare Sub VB_V_ReverseDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef oVect As Double)
   Public Declare Sub VB_V_ReverseBool Lib "KAVORATB1C.dll" (ByRef iVect As Boolean, ByVal n As Long, ByRef oVect As Boolean)
+  Public Declare Function VB_V_Gauss Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByRef ioVect As Double) As Long
   Public Declare Function VB_V_IsInInterval Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal iLower As Double, ByVal iUpper As Double, ByVal iStrictly As Boolean, ByVal iIgnoreMissing As Boolean) As Boolean
   Public Declare Function VB_V_NbIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByVal ival As Double) As Double
   Public Declare Function VB_V_SumIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
   Public Declare Function VB_V_MeanIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double) As Double
   Public Declare Function VB_V_VarIf Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal n As Long, ByRef iVect2 As Double, ByVal ival As Double, ByVal iBiased As Boolean) As Double
+  Public Declare Function VB_M_Sweep Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal k As Long) As Long
   Public Declare Function VB_M_Transpose Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oTransMat As Double) As Long
   Public Declare Function VB_M_Transpose2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long) As Long
   Public Declare Function VB_M_Inverse1 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef oInvMat As Double, ByVal Eps As Double) As Long
@@ -315,6 +339,7 @@ Option Explicit
   Public Declare Function VB_M_ProductAB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double) As Long
   Public Declare Function VB_M_ProductABMissing Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double) As Long
   Public Declare Function VB_M_ProductBV Lib "KAVORATB1C.dll" (ByRef iBMat As Double, ByVal n As Long, ByVal p As Long, ByRef iAVec As Double, ByRef oCVec As Double) As Long
+  Public Declare Function VB_M_Eigen Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByRef oEigenVal As Double, ByRef oEigenVect As Double, ByVal n As Long, ByVal iSort As Boolean) As Long
   Public Declare Function VB_M_MeanStDev Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean, ByVal MissingPerCol As Boolean) As Long
   Public Declare Function VB_M_Mean Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef iMissing As Boolean, ByRef w As Double) As Long
   Public Declare Function VB_M_MeanStDevVar Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Long
@@ -349,7 +374,13 @@ Option Explicit
   Public Declare Sub VB_M_APlusVal Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByVal ival As Double, ByRef oAPlusVal As Double)
   Public Declare Sub VB_M_Square Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
   Public Declare Function VB_M_Trace Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long) As Double
+  Public Declare Function VB_M_DeterminantTriang Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef Problem As Boolean) As Double
+  Public Declare Function VB_M_Determinant Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef Problem As Boolean) As Double
+  Public Declare Sub VB_M_LUDecomp Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef indx As Long, ByRef d As Double, ByRef Problem As Boolean)
+  Public Declare Function VB_M_CholDecomp Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByRef oMat As Double) As Long
   Public Declare Sub VB_M_EuclidDist2 Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oDistMat As Double, ByRef w As Double, ByVal iByRows As Boolean)
+  Public Declare Function VB_M_IsPositive Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByVal iStrictly As Boolean) As Boolean
+  Public Declare Sub VB_M_LogMatrix Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean)
   Public Declare Sub VB_M_SumByCols Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare Sub VB_M_SumByRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
@@ -363,6 +394,8 @@ Option Explicit
   Public Declare Sub VB_M_Symmetrize Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iType As Long)
   Public Declare Function VB_M_CheckIfSimOrDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iApriori As Long) As Long
   Public Declare Sub VB_M_TransformSimToDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long)
+  Public Declare Function VB_M_InverseTriang Lib "KAVORATB1C.dll" (ByRef iTriangMat As Double, ByVal n As Long, ByVal iIsLower As Boolean, ByRef oInvMat As Double, ByVal Eps As Double) As Long
+  Public Declare Sub VB_M_SVDecomp Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByVal p As Long, ByRef s As Double, ByRef u As Double, ByVal ldu As Long, ByRef v As Double, ByVal ldv As Long, ByVal job As Long, ByRef info As Long)
   Public Declare Sub VB_M_Center Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_CenterW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByRef oMat As Double)
   Public Declare Sub VB_M_Center2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
@@ -379,14 +412,19 @@ Option Explicit
   Public Declare Sub VB_M_ProductADiagV Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare Sub VB_M_SquaredRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
   Public Declare Sub VB_M_SquaredColumns Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
+  Public Declare Function VB_M_DeterminantCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef Problem As Boolean) As Double
   Public Declare Sub VB_M_Min Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMinVect As Double)
   Public Declare Sub VB_M_Max Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMaxVect As Double)
+  Public Declare Function VB_M_CholDecompCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef oMat As Double) As Long
   Public Declare Sub VB_M_CorrMatFromCovMat Lib "KAVORATB1C.dll" (ByRef iCovMat As Double, ByVal p As Long, ByRef oCorrMat As Double)
   Public Declare Function VB_M_ProductTrV1BV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iBMat As Double, ByRef iVect2 As Double) As Double
   Public Declare Sub VB_M_ProductDesignAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByVal iConstraintType As Long, ByRef w As Double, ByRef oInterFreqCat As Double)
+  Public Declare Sub VB_M_Log10Matrix Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
   Public Declare Sub VB_M_ProductDiagVA Lib "KAVORATB1C.dll" (ByRef iDiagVect As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_ProductDiagV1ADiagV2 Lib "KAVORATB1C.dll" (ByRef iDiagVect1 As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef iDiagVect2 As Double, ByRef oMat As Double)
+  Public Declare Function VB_M_Gauss Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByVal p As Long, ByRef ioMat2 As Double) As Long
   Public Declare Sub VB_M_StandardizeW Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal Unbiased As Boolean, ByVal isBiasOne As Boolean, ByRef oMat As Double)
+  Public Declare Function VB_M_InvGeneralized Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByRef oInvMat As Double, ByVal iEps As Double, ByRef oRank As Long) As Long
   Public Declare Sub VB_M_ProductTrADiagVA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare Sub VB_M_ProductADiagVTrA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare Function VB_SortQVectorLng Lib "KAVORATB1C.dll" (ByRef ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
@@ -410,6 +448,12 @@ Option Explicit
   Public Declare Function VB_CorrelPearson Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByRef iVector2 As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
   Public Declare Function VB_MAPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
   Public Declare Function VB_RMSE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByVal nY As Long, ByVal p As Long, ByRef PredY As Double, ByVal DF As Long) As Double
+  Public Declare Sub VB_FilterEigen Lib "KAVORATB1C.dll" (ByRef iEigenValues As Double, ByVal p As Long, ByVal iDoFilter As Boolean, ByVal iFilter As Double, ByVal iMinPerc As Double, ByVal iMaxFact As Long, ByVal iMaxVal As Double, ByRef oNbEigen As Long, ByRef oDispEigen As Long, ByRef Percent As Double)
+  Public Declare Sub VB_CheckTolerance Lib "KAVORATB1C.dll" (ByRef R As Double, ByVal p As Long, ByVal NbFactors As Long, ByRef FactActive As Long, ByRef FactType As Long, ByRef FactSubParents As Long, ByVal Tolerance As Double, ByVal FastRemoval As Boolean, ByVal iCheckall As Boolean, ByVal WithAnEq0 As Boolean, ByRef oNotToleratedVars As Long, ByRef oTolerances As Double, ByRef oVIF As Double)
+  Public Declare Sub ComputeCosines Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oCosines As Double)
+  Public Declare Sub VB_BiplotTransData Lib "KAVORATB1C.dll" (ByRef iScores As Double, ByRef iScoresSupp As Double, ByRef iLoadings As Double, ByVal n As Long, ByVal nSupp As Long, ByVal p As Long, ByVal iNbEigen As Long, ByRef iEigenValues As Double, ByVal iScale As Double, ByVal iExpo As Double, ByRef oNewScores As Double, ByRef oNewLoadings As Double)
+  Public Declare Function CleanConstraintsAndInvert Lib "KAVORATB1C.dll" (ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv As Double, ByRef oInvDeriv As Double) As Long
+  Public Declare Function CleanConstraintsAndInvertTriang Lib "KAVORATB1C.dll" (ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv As Double, ByVal iIsLower As Boolean, ByRef oInvDeriv As Double) As Long
   Public Declare Function VB_MPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
   Public Declare Function VB_MAE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
 

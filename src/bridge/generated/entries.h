@@ -332,6 +332,10 @@ void VB_V_ReverseDbl(double* iVect, int n, double* oVect);
 /// Copies the flags of iVect in reverse order to oVect as 0 or -1.
 void VB_V_ReverseBool(VARIANT_BOOL* iVect, int n, VARIANT_BOOL* oVect);
 
+/// Solves the n by n system ioMat * x = ioVect by full pivoting: ioMat becomes its inverse and ioVect the
+/// solution. Returns 0, or -2 when a pivot is exactly 0 (singular).
+int VB_V_Gauss(double* ioMat, int n, double* ioVect);
+
 /// -1 when every cell lies between iLower and iUpper, bounds included (excluded if iStrictly is -1), else
 /// 0. A missing cell gives 0 unless iIgnoreMissing is -1.
 VARIANT_BOOL VB_V_IsInInterval(
@@ -351,6 +355,10 @@ double VB_V_MeanIf(double* iVect, int n, double* iVect2, double ival);
 /// Variance of the present cells of iVect whose cell in iVect2 equals ival, divided by count - 1, by
 /// count if iBiased is -1; the missing-value marker when it cannot be computed.
 double VB_V_VarIf(double* iVect, int n, double* iVect2, double ival, VARIANT_BOOL iBiased);
+
+/// Sweeps the packed symmetric table t (lower triangle row by row, n(n+1)/2 cells) on the 1-based pivot
+/// k, in place. Returns 0; a zero pivot is not tested.
+int VB_M_Sweep(double* t, int n, int k);
 
 /// Writes the transpose (p x n) of the n x p table into oTransMat; markers stay as they are. Returns 0.
 int VB_M_Transpose(double* iAMat, int n, int p, double* oTransMat);
@@ -377,6 +385,10 @@ int VB_M_ProductABMissing(double* iAMat, int n, int p, double* iBMat, int m, dou
 /// Writes B.v (n cells) into oCVec, B being n x p and v having p cells; a missing operand shows in the
 /// result. Returns 0.
 int VB_M_ProductBV(double* iBMat, int n, int p, double* iAVec, double* oCVec);
+
+/// Eigenvalues and unit eigenvectors (columns of oEigenVect) of the symmetric n x n table, decreasing
+/// when iSort is set. Returns 0, or -1 when it does not converge.
+int VB_M_Eigen(double* iMat, double* oEigenVal, double* oEigenVect, int n, VARIANT_BOOL iSort);
 
 /// Weighted mean and deviation of each column; the marker without a used row. Missing cells are left out
 /// when MissingPerCol is set, else they count as 0.0. Returns 0.
@@ -513,9 +525,32 @@ void VB_M_Square(double* ioMat, int n, int p);
 /// Returns the sum of the diagonal of the n x n table.
 double VB_M_Trace(double* iAMat, int n);
 
+/// Returns the determinant of a triangular n x n table, the product of its diagonal; Problem receives 0.
+double VB_M_DeterminantTriang(double* iAMat, int n, VARIANT_BOOL* Problem);
+
+/// Returns the determinant of the n x n table. Problem is 0, -1 for a row of zeros, 1 when no pivot is
+/// found; the result is 0.0 in these two cases.
+double VB_M_Determinant(double* iAMat, int n, VARIANT_BOOL* Problem);
+
+/// Replaces iAMat (n x n) by its LU factors; indx receives the 1-based pivot rows, d the parity 1 or -1.
+/// Problem is 0, -1 for a row of zeros, 1 when no pivot is found.
+void VB_M_LUDecomp(double* iAMat, int n, int* indx, double* d, VARIANT_BOOL* Problem);
+
+/// Writes the lower triangular L with A = L.L' (n x n) into oMat; returns 0, or -1 when A is not positive
+/// definite. Only the upper triangle of A is read.
+int VB_M_CholDecomp(double* iAMat, int n, double* oMat);
+
 /// Writes squared weighted distances between rows (n x n, p weights) into oDistMat, or between columns (p
 /// x p, n weights) when iByRows is 0.
 void VB_M_EuclidDist2(double* iAMat, int n, int p, double* oDistMat, double* w, VARIANT_BOOL iByRows);
+
+/// Returns -1 when every cell of the rows without a flag is at least 0, or above 0 when iStrictly is -1;
+/// else 0.
+VARIANT_BOOL VB_M_IsPositive(double* iAMat, int n, int p, VARIANT_BOOL* iMissing, VARIANT_BOOL iStrictly);
+
+/// Replaces cells by their natural logarithm, in place; missing cells and flagged rows stay. Zero gives
+/// minus infinity, a negative cell NaN.
+void VB_M_LogMatrix(double* iAMat, int n, int p, VARIANT_BOOL* iMissing);
 
 /// Sum of each column, into oSums (p); a missing cell shows in its sum.
 void VB_M_SumByCols(double* iMat, int n, int p, double* oSums);
@@ -568,6 +603,15 @@ int VB_M_CheckIfSimOrDissim(double* t, int n, int iApriori);
 /// Replaces similarities by dissimilarities in place: s(i,i) - s(i,j) for i below j, mirrored, with a
 /// diagonal of 0.0.
 void VB_M_TransformSimToDissim(double* t, int n);
+
+/// Inverse of a triangular n x n table into that triangle of oInvMat; the other one is not written.
+/// Returns 0, or -1 when a diagonal cell is below Eps in magnitude.
+int VB_M_InverseTriang(double* iTriangMat, int n, VARIANT_BOOL iIsLower, double* oInvMat, double Eps);
+
+/// Singular values, decreasing, into s, vectors as job asks (21 for both) into u and v; X is overwritten.
+/// info is 0, or the position of a value that does not converge.
+void VB_M_SVDecomp(
+    double* X, int n, int p, double* s, double* u, int ldu, double* v, int ldv, int job, int* info);
 
 /// Writes each column minus its mean into oMat (n x p); a missing cell counts as 0.0.
 void VB_M_Center(double* iMat, int n, int p, double* oMat);
@@ -628,6 +672,10 @@ void VB_M_SquaredRows(double* iMat, int n, int p, double* oVect);
 /// Sum of squares of each column, into oVect (p); a missing cell shows in its sum.
 void VB_M_SquaredColumns(double* iMat, int n, int p, double* oVect);
 
+/// Returns the determinant of the p x p table without the rows and columns whose iConstraints is not 0.
+/// Problem is as in VB_M_Determinant.
+double VB_M_DeterminantCleaned(double* iMat, int p, int* iConstraints, VARIANT_BOOL* Problem);
+
 /// Smallest value of each column, into oMinVect (p); cells with the marker are passed over, and a column
 /// of markers gives the marker.
 void VB_M_Min(double* iMat, int n, int p, double* oMinVect);
@@ -635,6 +683,10 @@ void VB_M_Min(double* iMat, int n, int p, double* oMinVect);
 /// Largest value of each column, into oMaxVect (p); cells with the marker are passed over, and a column
 /// of markers gives the marker.
 void VB_M_Max(double* iMat, int n, int p, double* oMaxVect);
+
+/// Lower triangular L with A = L.L' over the variables whose iConstraints is 0, into oMat (p x p), zeros
+/// elsewhere. Returns 0, or -1 when not positive definite.
+int VB_M_CholDecompCleaned(double* iMat, int p, int* iConstraints, double* oMat);
 
 /// Correlations (p x p) from covariances, into oCorrMat; a variable without variance gives 0.0, even on
 /// the diagonal.
@@ -649,6 +701,10 @@ void VB_M_ProductDesignAB2(
     double* ioMat1, int n, int* iop1, double* iMat2, int p2, int iConstraintType, double* w,
     double* oInterFreqCat);
 
+/// Replaces cells by their base-10 logarithm, in place; missing cells stay. Zero gives minus infinity, a
+/// negative cell NaN.
+void VB_M_Log10Matrix(double* ioMat, int n, int p);
+
 /// Writes diag(v).A (n x p) into oMat: row i times cell i of iDiagVect (n cells).
 void VB_M_ProductDiagVA(double* iDiagVect, int n, double* iMat, int p, double* oMat);
 
@@ -656,10 +712,18 @@ void VB_M_ProductDiagVA(double* iDiagVect, int n, double* iMat, int p, double* o
 void VB_M_ProductDiagV1ADiagV2(
     double* iDiagVect1, int n, double* iMat, int p, double* iDiagVect2, double* oMat);
 
+/// Solves linear systems: ioMat1 (n x n) becomes its inverse, the right-hand sides ioMat2 (n x p) the
+/// solutions. Returns 0, or -2 on a zero pivot.
+int VB_M_Gauss(double* ioMat1, int n, int p, double* ioMat2);
+
 /// Writes each column into oMat (n x p) standardised by its weighted mean and deviation; a constant
 /// column becomes 0.0.
 void VB_M_StandardizeW(
     double* iMat, int n, int p, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL isBiasOne, double* oMat);
+
+/// Generalised inverse of the symmetric n x n table into oInvMat; singular values below iEps count as
+/// zero, oRank counts the others. Returns 0, or -1 on failure.
+int VB_M_InvGeneralized(double* iMat, int n, double* oInvMat, double iEps, int* oRank);
 
 /// Writes A'.diag(v).A (p x p) into oMat, iDiagVect having n cells; a missing operand shows in the
 /// result.
@@ -762,6 +826,38 @@ double VB_MAPE(double* Y, double* YPred, int n, double* w, int binf);
 /// Returns the square root of sum((Y - PredY)^2) / DF over the nY rows of column p (1-based); rows with Y
 /// missing are left out.
 double VB_RMSE(double* Y, int nY, int p, double* PredY, int DF);
+
+/// Counts eigenvalues kept (oNbEigen) and selected (oDispEigen); Percent receives percentages. Without
+/// iDoFilter a last one below iFilter becomes 0.0 in place.
+void VB_FilterEigen(
+    double* iEigenValues, int p, VARIANT_BOOL iDoFilter, double iFilter, double iMinPerc, int iMaxFact,
+    double iMaxVal, int* oNbEigen, int* oDispEigen, double* Percent);
+
+/// Collinearity screen: oNotToleratedVars is 0 usable, 50000 without variance, 60000 collinear;
+/// oTolerances and oVIF get tolerances and inverses (marker for 0.0).
+void VB_CheckTolerance(
+    double* R, int p, int NbFactors, int* FactActive, int* FactType, int* FactSubParents, double Tolerance,
+    VARIANT_BOOL FastRemoval, VARIANT_BOOL iCheckall, VARIANT_BOOL WithAnEq0, int* oNotToleratedVars,
+    double* oTolerances, double* oVIF);
+
+/// Squared cosines of each row with the p axes, x^2 / row sum of squares, into oCosines (n x p); rows of
+/// zeros are not written.
+void ComputeCosines(double* iMat, int n, int p, double* oCosines);
+
+/// Scores times eigenvalue^iExpo.iScale (n rows, then nSupp) into oNewScores, loadings divided by it into
+/// oNewLoadings, over iNbEigen axes; a zero eigenvalue gives 0.0.
+void VB_BiplotTransData(
+    double* iScores, double* iScoresSupp, double* iLoadings, int n, int nSupp, int p, int iNbEigen,
+    double* iEigenValues, double iScale, double iExpo, double* oNewScores, double* oNewLoadings);
+
+/// Inverse of the p x p table over the variables with iConstraints 0, zeros elsewhere, into oInvDeriv;
+/// returns 0, or -1 when singular. A single null cell gives 1E12.
+int CleanConstraintsAndInvert(int p, int* iConstraints, double* iDeriv, double* oInvDeriv);
+
+/// Inverse of the triangular p x p table over the variables with iConstraints 0, zeros elsewhere, into
+/// oInvDeriv; returns 0, or -1 when a diagonal cell is below 1E-12.
+int CleanConstraintsAndInvertTriang(
+    int p, int* iConstraints, double* iDeriv, VARIANT_BOOL iIsLower, double* oInvDeriv);
 
 /// Returns 100 times the weighted mean of (Y - YPred) / Y from position binf (1-based); markers and Y = 0
 /// are left out, the marker comes when none is left.

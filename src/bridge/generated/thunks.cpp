@@ -388,6 +388,10 @@ KAV_ENTRY void KAV_CALL VB_V_ReverseBool(VARIANT_BOOL* iVect, int n, VARIANT_BOO
   return guarded<void>([&] { return entries::VB_V_ReverseBool(iVect, n, oVect); });
 }
 
+KAV_ENTRY int KAV_CALL VB_V_Gauss(double* ioMat, int n, double* ioVect) noexcept {
+  return guarded<int>([&] { return entries::VB_V_Gauss(ioMat, n, ioVect); });
+}
+
 KAV_ENTRY VARIANT_BOOL KAV_CALL VB_V_IsInInterval(
     double* iVect, int n, double iLower, double iUpper, VARIANT_BOOL iStrictly, VARIANT_BOOL iIgnoreMissing) noexcept {
   return guarded<VARIANT_BOOL>([&] { return entries::VB_V_IsInInterval(iVect, n, iLower, iUpper, iStrictly, iIgnoreMissing); });
@@ -408,6 +412,10 @@ KAV_ENTRY double KAV_CALL VB_V_MeanIf(double* iVect, int n, double* iVect2, doub
 KAV_ENTRY double KAV_CALL VB_V_VarIf(
     double* iVect, int n, double* iVect2, double ival, VARIANT_BOOL iBiased) noexcept {
   return guarded<double>([&] { return entries::VB_V_VarIf(iVect, n, iVect2, ival, iBiased); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_Sweep(double* t, int n, int k) noexcept {
+  return guarded<int>([&] { return entries::VB_M_Sweep(t, n, k); });
 }
 
 KAV_ENTRY int KAV_CALL VB_M_Transpose(double* iAMat, int n, int p, double* oTransMat) noexcept {
@@ -440,6 +448,11 @@ KAV_ENTRY int KAV_CALL VB_M_ProductABMissing(
 
 KAV_ENTRY int KAV_CALL VB_M_ProductBV(double* iBMat, int n, int p, double* iAVec, double* oCVec) noexcept {
   return guarded<int>([&] { return entries::VB_M_ProductBV(iBMat, n, p, iAVec, oCVec); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_Eigen(
+    double* iMat, double* oEigenVal, double* oEigenVect, int n, VARIANT_BOOL iSort) noexcept {
+  return guarded<int>([&] { return entries::VB_M_Eigen(iMat, oEigenVal, oEigenVect, n, iSort); });
 }
 
 KAV_ENTRY int KAV_CALL VB_M_MeanStDev(
@@ -611,9 +624,35 @@ KAV_ENTRY double KAV_CALL VB_M_Trace(double* iAMat, int n) noexcept {
   return guarded<double>([&] { return entries::VB_M_Trace(iAMat, n); });
 }
 
+KAV_ENTRY double KAV_CALL VB_M_DeterminantTriang(double* iAMat, int n, VARIANT_BOOL* Problem) noexcept {
+  return guarded<double>([&] { return entries::VB_M_DeterminantTriang(iAMat, n, Problem); });
+}
+
+KAV_ENTRY double KAV_CALL VB_M_Determinant(double* iAMat, int n, VARIANT_BOOL* Problem) noexcept {
+  return guarded<double>([&] { return entries::VB_M_Determinant(iAMat, n, Problem); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_LUDecomp(
+    double* iAMat, int n, int* indx, double* d, VARIANT_BOOL* Problem) noexcept {
+  return guarded<void>([&] { return entries::VB_M_LUDecomp(iAMat, n, indx, d, Problem); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_CholDecomp(double* iAMat, int n, double* oMat) noexcept {
+  return guarded<int>([&] { return entries::VB_M_CholDecomp(iAMat, n, oMat); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_EuclidDist2(
     double* iAMat, int n, int p, double* oDistMat, double* w, VARIANT_BOOL iByRows) noexcept {
   return guarded<void>([&] { return entries::VB_M_EuclidDist2(iAMat, n, p, oDistMat, w, iByRows); });
+}
+
+KAV_ENTRY VARIANT_BOOL KAV_CALL VB_M_IsPositive(
+    double* iAMat, int n, int p, VARIANT_BOOL* iMissing, VARIANT_BOOL iStrictly) noexcept {
+  return guarded<VARIANT_BOOL>([&] { return entries::VB_M_IsPositive(iAMat, n, p, iMissing, iStrictly); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_LogMatrix(double* iAMat, int n, int p, VARIANT_BOOL* iMissing) noexcept {
+  return guarded<void>([&] { return entries::VB_M_LogMatrix(iAMat, n, p, iMissing); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_SumByCols(double* iMat, int n, int p, double* oSums) noexcept {
@@ -672,6 +711,16 @@ KAV_ENTRY int KAV_CALL VB_M_CheckIfSimOrDissim(double* t, int n, int iApriori) n
 
 KAV_ENTRY void KAV_CALL VB_M_TransformSimToDissim(double* t, int n) noexcept {
   return guarded<void>([&] { return entries::VB_M_TransformSimToDissim(t, n); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_InverseTriang(
+    double* iTriangMat, int n, VARIANT_BOOL iIsLower, double* oInvMat, double Eps) noexcept {
+  return guarded<int>([&] { return entries::VB_M_InverseTriang(iTriangMat, n, iIsLower, oInvMat, Eps); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SVDecomp(
+    double* X, int n, int p, double* s, double* u, int ldu, double* v, int ldv, int job, int* info) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SVDecomp(X, n, p, s, u, ldu, v, ldv, job, info); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_Center(double* iMat, int n, int p, double* oMat) noexcept {
@@ -745,12 +794,21 @@ KAV_ENTRY void KAV_CALL VB_M_SquaredColumns(double* iMat, int n, int p, double* 
   return guarded<void>([&] { return entries::VB_M_SquaredColumns(iMat, n, p, oVect); });
 }
 
+KAV_ENTRY double KAV_CALL VB_M_DeterminantCleaned(
+    double* iMat, int p, int* iConstraints, VARIANT_BOOL* Problem) noexcept {
+  return guarded<double>([&] { return entries::VB_M_DeterminantCleaned(iMat, p, iConstraints, Problem); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_Min(double* iMat, int n, int p, double* oMinVect) noexcept {
   return guarded<void>([&] { return entries::VB_M_Min(iMat, n, p, oMinVect); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_Max(double* iMat, int n, int p, double* oMaxVect) noexcept {
   return guarded<void>([&] { return entries::VB_M_Max(iMat, n, p, oMaxVect); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_CholDecompCleaned(double* iMat, int p, int* iConstraints, double* oMat) noexcept {
+  return guarded<int>([&] { return entries::VB_M_CholDecompCleaned(iMat, p, iConstraints, oMat); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_CorrMatFromCovMat(double* iCovMat, int p, double* oCorrMat) noexcept {
@@ -767,6 +825,10 @@ KAV_ENTRY void KAV_CALL VB_M_ProductDesignAB2(
   return guarded<void>([&] { return entries::VB_M_ProductDesignAB2(ioMat1, n, iop1, iMat2, p2, iConstraintType, w, oInterFreqCat); });
 }
 
+KAV_ENTRY void KAV_CALL VB_M_Log10Matrix(double* ioMat, int n, int p) noexcept {
+  return guarded<void>([&] { return entries::VB_M_Log10Matrix(ioMat, n, p); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_ProductDiagVA(
     double* iDiagVect, int n, double* iMat, int p, double* oMat) noexcept {
   return guarded<void>([&] { return entries::VB_M_ProductDiagVA(iDiagVect, n, iMat, p, oMat); });
@@ -777,9 +839,18 @@ KAV_ENTRY void KAV_CALL VB_M_ProductDiagV1ADiagV2(
   return guarded<void>([&] { return entries::VB_M_ProductDiagV1ADiagV2(iDiagVect1, n, iMat, p, iDiagVect2, oMat); });
 }
 
+KAV_ENTRY int KAV_CALL VB_M_Gauss(double* ioMat1, int n, int p, double* ioMat2) noexcept {
+  return guarded<int>([&] { return entries::VB_M_Gauss(ioMat1, n, p, ioMat2); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_StandardizeW(
     double* iMat, int n, int p, double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL isBiasOne, double* oMat) noexcept {
   return guarded<void>([&] { return entries::VB_M_StandardizeW(iMat, n, p, w, Unbiased, isBiasOne, oMat); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_InvGeneralized(
+    double* iMat, int n, double* oInvMat, double iEps, int* oRank) noexcept {
+  return guarded<int>([&] { return entries::VB_M_InvGeneralized(iMat, n, oInvMat, iEps, oRank); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_ProductTrADiagVA(
@@ -891,6 +962,39 @@ KAV_ENTRY double KAV_CALL VB_MAPE(double* Y, double* YPred, int n, double* w, in
 
 KAV_ENTRY double KAV_CALL VB_RMSE(double* Y, int nY, int p, double* PredY, int DF) noexcept {
   return guarded<double>([&] { return entries::VB_RMSE(Y, nY, p, PredY, DF); });
+}
+
+KAV_ENTRY void KAV_CALL VB_FilterEigen(
+    double* iEigenValues, int p, VARIANT_BOOL iDoFilter, double iFilter, double iMinPerc, int iMaxFact,
+    double iMaxVal, int* oNbEigen, int* oDispEigen, double* Percent) noexcept {
+  return guarded<void>([&] { return entries::VB_FilterEigen(iEigenValues, p, iDoFilter, iFilter, iMinPerc, iMaxFact, iMaxVal, oNbEigen, oDispEigen, Percent); });
+}
+
+KAV_ENTRY void KAV_CALL VB_CheckTolerance(
+    double* R, int p, int NbFactors, int* FactActive, int* FactType, int* FactSubParents, double Tolerance,
+    VARIANT_BOOL FastRemoval, VARIANT_BOOL iCheckall, VARIANT_BOOL WithAnEq0, int* oNotToleratedVars,
+    double* oTolerances, double* oVIF) noexcept {
+  return guarded<void>([&] { return entries::VB_CheckTolerance(R, p, NbFactors, FactActive, FactType, FactSubParents, Tolerance, FastRemoval, iCheckall, WithAnEq0, oNotToleratedVars, oTolerances, oVIF); });
+}
+
+KAV_ENTRY void KAV_CALL ComputeCosines(double* iMat, int n, int p, double* oCosines) noexcept {
+  return guarded<void>([&] { return entries::ComputeCosines(iMat, n, p, oCosines); });
+}
+
+KAV_ENTRY void KAV_CALL VB_BiplotTransData(
+    double* iScores, double* iScoresSupp, double* iLoadings, int n, int nSupp, int p, int iNbEigen,
+    double* iEigenValues, double iScale, double iExpo, double* oNewScores, double* oNewLoadings) noexcept {
+  return guarded<void>([&] { return entries::VB_BiplotTransData(iScores, iScoresSupp, iLoadings, n, nSupp, p, iNbEigen, iEigenValues, iScale, iExpo, oNewScores, oNewLoadings); });
+}
+
+KAV_ENTRY int KAV_CALL CleanConstraintsAndInvert(
+    int p, int* iConstraints, double* iDeriv, double* oInvDeriv) noexcept {
+  return guarded<int>([&] { return entries::CleanConstraintsAndInvert(p, iConstraints, iDeriv, oInvDeriv); });
+}
+
+KAV_ENTRY int KAV_CALL CleanConstraintsAndInvertTriang(
+    int p, int* iConstraints, double* iDeriv, VARIANT_BOOL iIsLower, double* oInvDeriv) noexcept {
+  return guarded<int>([&] { return entries::CleanConstraintsAndInvertTriang(p, iConstraints, iDeriv, iIsLower, oInvDeriv); });
 }
 
 KAV_ENTRY double KAV_CALL VB_MPE(double* Y, double* YPred, int n, double* w, int binf) noexcept {
