@@ -6,11 +6,16 @@
 
 #include "core/block.h"
 #include "core/elements.h"
+#include "decomp/householder.h"
+#include "decomp/rotations.h"
 #include "decomp/tridiagonal.h"
 #include "sort/sorts.h"
 #include "stats/vector_sums.h"
 
 namespace {
+
+/// Columns from which it pays to look at several at once.
+constexpr int kFewColumns = 6;
 
 /// The reduction as it is defined: z becomes the matrix of eigenvectors to start from, d and e the diagonals.
 template <class Cells>
@@ -94,6 +99,22 @@ int decompose(const Cells& z, int n, double* d, double* e) {
   return tridiagonal::qlSteps(n, d, e, vectors);
 }
 
+/// The same on plain memory: rotations are kept and applied to many rows at once.
+struct Kept {
+  void rotate(int i, double c, double s) { log.rotate(i + 1, i, c, s); }
+
+  rotations::Log log;
+};
+
+int decomposePlain(const elements::Plain& z, int n, double* d) {
+  householder::Tridiagonalization reduced(z, n);
+  Kept vectors{rotations::Log(z, n, n)};
+  const int status = tridiagonal::qlSteps(n, reduced.d.data(), reduced.e.data(), vectors);
+  vectors.log.finish();
+  std::copy(reduced.d.begin(), reduced.d.end(), d);
+  return status;
+}
+
 /// Decreasing values, the columns of vectors with them.
 void sortDecreasing(matrix*& values, matrix*& vectors, int n) {
   matrix rows(n, n);
@@ -111,11 +132,21 @@ int M_Eigen(const matrix* a, matrix*& values, matrix*& vectors, int n, int sort)
   if (n < 1) return 0;
   const block::Values cells(a, n, n);
   std::vector<double> d(static_cast<std::size_t>(n)), e(d.size());
-  const elements::Checked z(vectors);
-  for (int j = 0; j < n; ++j) {
-    for (int i = 0; i < n; ++i) z.set(i, j, cells.column(j)[i]);
+  int status;
+  if (n >= kFewColumns && block::isPlain(vectors, n, n)) {
+    const elements::Plain z(vectors->values, vectors->nX);
+    for (int j = 0; j < n; ++j) {
+      for (int i = j; i < n; ++i) z.column(j)[i] = z.column(i)[j] = cells.column(j)[i];
+    }
+    vectors->descValid = 0;
+    status = decomposePlain(z, n, d.data());
+  } else {
+    const elements::Checked z(vectors);
+    for (int j = 0; j < n; ++j) {
+      for (int i = 0; i < n; ++i) z.set(i, j, cells.column(j)[i]);
+    }
+    status = decompose(z, n, d.data(), e.data());
   }
-  const int status = decompose(z, n, d.data(), e.data());
   for (int k = 0; k < n; ++k) values->setElement(k, 0, d[static_cast<std::size_t>(k)]);
   if (status == 0 && sort != 0) sortDecreasing(values, vectors, n);
   return status;

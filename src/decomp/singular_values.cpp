@@ -4,7 +4,10 @@
 #include <vector>
 
 #include "core/block.h"
+#include "core/elements.h"
 #include "decomp/bidiagonal.h"
+#include "decomp/householder.h"
+#include "decomp/rotations.h"
 
 using bidiagonal::Job;
 
@@ -141,13 +144,88 @@ class ByKernels {
   matrix s_, e_, work_;
 };
 
+/// The same on plain memory: many columns at a time, rotations kept and applied to many rows at once.
+class ByBlocks {
+ public:
+  ByBlocks(const Job& job, const elements::Plain& x, const elements::Plain& u, const elements::Plain& v)
+      : job_(job),
+        reduced_(job, x),
+        left_(u, job.n, job.left ? job.leftColumns : 0),
+        right_(v, job.p, job.right ? job.p : 0) {
+    if (job.left) reduced_.generateLeft(u);
+    if (job.right) reduced_.generateRight(v);
+  }
+
+  int run() {
+    const int status = bidiagonal::QrSteps(job_, reduced_.s.data() - 1, reduced_.e.data() - 1, *this).run();
+    left_.finish();
+    right_.finish();
+    return status;
+  }
+
+  double value(int k) const { return reduced_.s[static_cast<std::size_t>(k)]; }
+
+  /// Whether a rotation met a left vector outside, as only values that are not finite make happen: then
+  /// nothing that has been computed is of use.
+  bool leftTable() const { return leftTable_; }
+
+  void rotateLeft(int j, int k, double c, double s) {
+    leftTable_ = leftTable_ || std::max(j, k) > job_.leftColumns;
+    if (!leftTable_) left_.rotate(j - 1, k - 1, c, s);
+  }
+  void rotateRight(int j, int k, double c, double s) { right_.rotate(j - 1, k - 1, c, s); }
+  void negateRight(int j) { right_.negate(j - 1); }
+  void swapLeft(int j) { left_.swapWithNext(j - 1); }
+  void swapRight(int j) { right_.swapWithNext(j - 1); }
+
+ private:
+  const Job& job_;
+  householder::Bidiagonalization reduced_;
+  rotations::Log left_, right_;
+  bool leftTable_ = false;
+};
+
+/// Sizes from which blocks pay.
+constexpr int kFew = 4;
+
+bool blocksPay(const Job& job, const matrix* x, const matrix* u, const matrix* v) {
+  return std::min(job.n, job.p) >= kFew && block::isPlain(x, job.n, job.p) &&
+         (!job.left || block::isPlain(u, job.n, job.leftColumns)) &&
+         (!job.right || block::isPlain(v, job.p, job.p));
+}
+
+elements::Plain plainCells(matrix* m) {
+  return m == nullptr ? elements::Plain(nullptr, 0) : elements::Plain(m->values, m->nX);
+}
+
+template <class Decomposition>
+int decompose(Decomposition& decomposition, const Job& job, matrix* s) {
+  const int info = decomposition.run();
+  for (int k = 0; k < job.order() && s != nullptr; ++k) s->setElement(k, decomposition.value(k));
+  return info;
+}
+
 }  // namespace
 
 void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, int, matrix* v, int, int job, int& info) {
   info = 0;
   if (n < 1 || p < 1) return;
   const Job work(n, p, job);
+  if (blocksPay(work, x, u, v)) {
+    std::vector<double> before;
+    for (int j = 0; j < p; ++j) {
+      const double* column = plainCells(x).column(j);
+      before.insert(before.end(), column, column + n);
+    }
+    ByBlocks decomposition(work, plainCells(x), plainCells(u), plainCells(v));
+    info = decompose(decomposition, work, s);
+    for (matrix* m : {x, u, v}) {
+      if (m != nullptr) m->descValid = 0;
+    }
+    if (!decomposition.leftTable()) return;
+    for (int j = 0; j < p; ++j)
+      std::copy_n(before.data() + std::ptrdiff_t{n} * j, n, plainCells(x).column(j));
+  }
   ByKernels decomposition(work, x, u, v);
-  info = decomposition.run();
-  for (int k = 0; k < work.order() && s != nullptr; ++k) s->setElement(k, decomposition.value(k));
+  info = decompose(decomposition, work, s);
 }

@@ -101,6 +101,51 @@ struct Elimination {
                     ///< is none, and without any 0.0
 };
 
+/// Rows of reflectLanes cells, one after the other, of columns that are reflected.
+struct Reflection {
+  double* rows;
+  std::ptrdiff_t count;
+  const double* times;  ///< null, or for each lane what of `along` is added
+  const double* along;  ///< one for each row
+  const double* next;   ///< null, or one for each row
+  double* sums;         ///< for each lane, goes on with the sum of next times the cells as they are then
+};
+
+/// Plane rotations of pairs of columns, each pair beginning with the column that the one before ended with:
+/// columns first + k step and first + (k+1) step become c x + s y and c y - s x.
+struct RotationRun {
+  std::ptrdiff_t first, step, count;
+  const double* rotations;  ///< c, s of each
+};
+
+/// A symmetric table, both triangles, that takes off u e' + e u', and its product with a vector.
+struct RankTwo {
+  double* a;
+  std::ptrdiff_t stride, size;
+  const double *u, *e;  ///< null: the table stays
+  const double* w;
+  double* product;  ///< goes on with A.w, columns in ascending order
+};
+
+/// Sums of y[i] (x(i,j) + factors[j] work[i]) over the rows, for each column.
+struct ColumnSums {
+  const double* x;
+  std::ptrdiff_t stride, rows, columns;
+  const double *factors, *work;  ///< null: 0.0 is not even added
+  const double* y;
+  double* sums;
+};
+
+/// Columns that become (x(i,j) + factors[j] work[i]) + times[j] y[i].
+struct ColumnUpdate {
+  double* x;
+  std::ptrdiff_t stride, rows, columns;
+  const double *factors, *work;  ///< null: not added
+  const double *times, *y;       ///< likewise
+  const double* shares;          ///< null, or what of each column, as it is then, is added to sums
+  double* sums;                  ///< one for each row; goes on, columns in ascending order
+};
+
 /// The kernels for one instruction set.
 struct Table {
   const char* name;
@@ -133,6 +178,18 @@ struct Table {
 
   /// x(i, j) -= factors[i] pivots[j], and the largest of each column.
   void (*eliminate)(const Elimination& elimination);
+
+  /// Columns that reflect goes on with side by side, a lane each.
+  int reflectLanes;
+  void (*reflect)(const Reflection& reflection);
+
+  /// Rows that rotate goes on with side by side: cell (i, j) of some is at columns[rotateLanes * j + i].
+  int rotateLanes;
+  void (*rotate)(double* columns, const RotationRun* runs, std::ptrdiff_t count);
+
+  void (*rankTwo)(const RankTwo& update);
+  void (*columnSums)(const ColumnSums& sums);
+  void (*updateColumns)(const ColumnUpdate& update);
 
   /// x[j] -= a b[j]; what is below the threshold in absolute value becomes 0.0.
   void (*sweepRow)(double* x, double a, const double* b, std::ptrdiff_t n, double threshold);

@@ -11,6 +11,11 @@
 #include "algebra/covariance.h"
 #include "algebra/products.h"
 #include "algebra/standardization.h"
+#include "decomp/eigen.h"
+#include "decomp/elimination.h"
+#include "decomp/logarithms.h"
+#include "decomp/singular_values.h"
+#include "decomp/triangular.h"
 #include "sort/sorts.h"
 #include "stats/other_means.h"
 #include "stats/quantiles.h"
@@ -102,6 +107,44 @@ std::uint64_t hashOfAlgebra(const matrix& table, const matrix& kept, const matri
   return hash.value();
 }
 
+/// Factors, solutions, singular values and eigenvalues of tables that blocks of every kernel have to be cut
+/// from.
+std::uint64_t hashOfDecompositions(const matrix& kept) {
+  BitHash hash;
+  for (int n : {7, 33, 70}) {
+    matrix wide(n, n + 6), square(n, n), packed(n * (n + 1) / 2, 1);
+    for (int k = 0; k < n * (n + 6); ++k) {
+      const double x = kept.values[k];
+      wide.values[k] = std::fabs(x) < 1e6 ? x : 0.385;
+    }
+    matrix *gram = nullptr, *l = nullptr, *values = nullptr, *vectors = nullptr, *index = nullptr;
+    M_ProductATrA(&wide, n, n + 6, gram);
+    for (int i = 0, k = 0; i < n; ++i) {
+      for (int j = 0; j <= i; ++j) packed.values[k++] = gram->getElement(i, j);
+    }
+    hash.add(M_CholDecomp(gram, n, l)).add(*l);
+    hash.add(M_Eigen(gram, values, vectors, n, 1)).add(*values).add(*vectors);
+    for (int k = 1; k <= n; ++k) hash.add(M_Sweep(&packed, n, k));
+    hash.add(packed);
+    matrix s(n + 6, 1, 0.0), u(n, n, 0.0), v(n + 6, n + 6, 0.0), right(n, 2, 2.385);
+    std::copy_n(wide.values, n * n, square.values);
+    short status;
+    int info;
+    hash.add(M_Determinant(&square, n, status)).add(status);
+    matrix *factors = gram, *lu = &square;
+    double parity;
+    hash.add(M_Gauss(factors, n, 2, &right)).add(*factors).add(right);
+    M_LUDecomp(lu, n, index, parity, status);
+    hash.add(square).add(*index).add(parity).add(status);
+    M_SVDecomp(&wide, n, n + 6, &s, &u, n, &v, n + 6, 21, info);
+    hash.add(info).add(s).add(u).add(v).add(wide);
+    M_Log10Matrix(&s, n, 1);
+    hash.add(s);
+    for (matrix* m : {gram, l, values, vectors, index}) delete m;
+  }
+  return hash.value();
+}
+
 Hashes hashesOfCorpus() {
   const std::vector<double> cells = corpusCells(1, kRows * kColumns), weightCells = corpusCells(2, kRows);
   const matrix table(kRows, kColumns, cells.data(), false, 0, 0),
@@ -122,6 +165,7 @@ Hashes hashesOfCorpus() {
   }
   hashes["sums"] = sums.value();
   hashes["algebra"] = hashOfAlgebra(table, kept, weights, exclude.data());
+  hashes["decompositions"] = hashOfDecompositions(kept);
   hashes["statistics"] = hashOfStatistics(table, kept, weights, exclude.data());
   hashes["sorts"] = hashOfSorts(kept);
   matrix transposed(kColumns, kRows), stacked(kRows * kColumns, 1);

@@ -13,6 +13,11 @@ void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const
 void subtractRows(const RowTerms& terms);
 void backSubstitute(const double* u, std::ptrdiff_t n, double* x);
 void eliminate(const Elimination& e);
+void reflect(const Reflection& r);
+void rotate(double* columns, const RotationRun* runs, std::ptrdiff_t count);
+void rankTwo(const RankTwo& r);
+void columnSums(const ColumnSums& s);
+void updateColumns(const ColumnUpdate& u);
 void sweepRow(double* x, double a, const double* b, std::ptrdiff_t n, double threshold);
 
 namespace {
@@ -22,6 +27,10 @@ constexpr Index kPairVectors = sizeof(void*) == 8 ? 2 : 1;
 
 /// Enough sums beside each other to hide the latency of a subtraction.
 constexpr Index kSideVectors = sizeof(void*) != 8 ? 4 : KAV_VECTOR_BYTES == 16 ? 8 : 6;
+
+/// Their rows of a table stay in the first-level cache.
+constexpr Index kReflectVectors = sizeof(void*) == 8 && KAV_VECTOR_BYTES == 16 ? 4 : 2;
+constexpr Index kRotateVectors = 4;
 
 }  // namespace
 

@@ -15,6 +15,13 @@ const Table table = {KAV_ISA_NAME,
                      subtractRows,
                      backSubstitute,
                      eliminate,
+                     static_cast<int>(kReflectVectors* kLanes),
+                     reflect,
+                     static_cast<int>(kRotateVectors* kLanes),
+                     rotate,
+                     rankTwo,
+                     columnSums,
+                     updateColumns,
                      sweepRow};
 
 }  // namespace kernels::KAV_ISA
