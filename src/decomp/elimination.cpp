@@ -7,6 +7,7 @@
 
 #include "core/block.h"
 #include "core/elements.h"
+#include "core/scratch.h"
 #include "decomp/elimination.h"
 #include "decomp/packed.h"
 #include "kernels/kernels.h"
@@ -243,26 +244,14 @@ int M_Gauss(matrix* a, int n, int m, matrix* b) {
 void packed::sweep(double* s, int q, int k) {
   double& pivot = at(s, k, k);
   const double d = pivot, size = std::fabs(d), sign = d < 0.0 ? -1.0 : 1.0;
-  std::vector<double> column(static_cast<std::size_t>(q)), divided(column.size());
+  Scratch<double> column(static_cast<std::size_t>(q)), divided(column.size());
   for (int i = 0; i < q; ++i) {
     double& cell = at(s, i, k);
-    column[static_cast<std::size_t>(i)] = cell;
+    column[i] = cell;
     if (i != k) cell /= size;
-    divided[static_cast<std::size_t>(i)] = cell * sign;
+    divided[i] = cell * sign;
   }
-  const auto subtract = [&](int i, int begin, int end) {
-    kernels::best().sweepRow(&at(s, i, begin), column[static_cast<std::size_t>(i)], divided.data() + begin,
-                             end - begin, kZero);
-  };
-  for (int i = 0; i < q; ++i) {
-    if (i == k) continue;
-    if (i < k) {
-      subtract(i, 0, i + 1);
-    } else {
-      subtract(i, 0, k);
-      subtract(i, k + 1, i + 1);
-    }
-  }
+  kernels::best().sweep({s, q, k, column.data(), divided.data(), kZero});
   pivot = -1.0 / d;
 }
 

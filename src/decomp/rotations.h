@@ -40,7 +40,7 @@ class Log {
 
  private:
   /// Numbers kept, so many that a table is seldom gone through and so few that they stay in a cache.
-  static constexpr std::size_t kMost = 32768;
+  static constexpr std::size_t kMost = 65536;
 
   static bool continues(const kernels::RotationRun& run, int x, int y) {
     return run.first + run.step * run.count == x && run.step == y - x;

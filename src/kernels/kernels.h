@@ -101,6 +101,15 @@ struct Elimination {
                     ///< is none, and without any 0.0
 };
 
+/// A packed symmetric table, the lower triangle row after row, that takes off column[i] divided[j] in every
+/// cell (i, j) outside the pivot's row and column; what is below the threshold in absolute value becomes 0.0.
+struct Sweep {
+  double* cells;
+  std::ptrdiff_t order, pivot;
+  const double *column, *divided;
+  double threshold;
+};
+
 /// Rows of reflectLanes cells, one after the other, of columns that are reflected.
 struct Reflection {
   double* rows;
@@ -191,8 +200,7 @@ struct Table {
   void (*columnSums)(const ColumnSums& sums);
   void (*updateColumns)(const ColumnUpdate& update);
 
-  /// x[j] -= a b[j]; what is below the threshold in absolute value becomes 0.0.
-  void (*sweepRow)(double* x, double a, const double* b, std::ptrdiff_t n, double threshold);
+  void (*sweep)(const Sweep& sweep);
 };
 
 /// Those that this processor and system can run, the plainest first, and how many they are.

@@ -56,17 +56,24 @@ void eliminate(const Elimination& e) {
   for (; column < e.columns; ++column) eliminateColumns<1>(e, column);
 }
 
-void sweepRow(double* x, double a, const double* b, std::ptrdiff_t n, double threshold) {
-  const Vector least = spread(threshold), factor = spread(a);
+// The cells of the pivot's column go along and are put back: their row is one run of vectors.
+void sweep(const Sweep& s) {
+  const Vector least = spread(s.threshold);
   const Bits size = ~reinterpret_cast<Bits>(spread(-0.0));
-  Index j = 0;
-  for (; n - j >= kLanes; j += kLanes) {
-    const Vector cells = load(x + j) - factor * load(b + j);
-    store(x + j, masked(~Bits(masked(size, cells) < least), cells));
-  }
-  for (; j < n; ++j) {
-    const double cell = x[j] - a * b[j];
-    x[j] = __builtin_fabs(cell) < threshold ? 0.0 : cell;
+  double* x = s.cells;
+  for (Index i = 0; i < s.order; x += ++i) {
+    if (i == s.pivot) continue;
+    const double a = s.column[i], kept = i > s.pivot ? x[s.pivot] : 0.0;
+    Index j = 0;
+    for (; i + 1 - j >= kLanes; j += kLanes) {
+      const Vector cells = load(x + j) - load(s.divided + j) * a;
+      store(x + j, masked(~Bits(masked(size, cells) < least), cells));
+    }
+    for (; j <= i; ++j) {
+      const double cell = x[j] - a * s.divided[j];
+      x[j] = __builtin_fabs(cell) < s.threshold ? 0.0 : cell;
+    }
+    if (i > s.pivot) x[s.pivot] = kept;
   }
 }
 

@@ -18,7 +18,7 @@ void rotate(double* columns, const RotationRun* runs, std::ptrdiff_t count);
 void rankTwo(const RankTwo& r);
 void columnSums(const ColumnSums& s);
 void updateColumns(const ColumnUpdate& u);
-void sweepRow(double* x, double a, const double* b, std::ptrdiff_t n, double threshold);
+void sweep(const Sweep& s);
 
 namespace {
 

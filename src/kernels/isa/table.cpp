@@ -22,6 +22,6 @@ const Table table = {KAV_ISA_NAME,
                      rankTwo,
                      columnSums,
                      updateColumns,
-                     sweepRow};
+                     sweep};
 
 }  // namespace kernels::KAV_ISA
