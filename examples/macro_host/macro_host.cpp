@@ -1,6 +1,7 @@
 // The main job, as a macro would do it on real data: sums and means beside the exact ones, a descriptive
 // table of weighted data with missing cells, the mode of labels, ranks with ties, a table sorted by a key,
-// correlations with missing cells, a standardized table, an inverse checked by its product.
+// correlations with missing cells, a standardized table, an inverse checked by its product, principal
+// components.
 //
 //     macro_host FOLDER    with the folder of the CSV files; a column named "weight" holds row weights
 
@@ -12,6 +13,7 @@
 
 #include "csv_table.h"
 #include "macro_engine.h"
+#include "principal_components.h"
 
 namespace {
 
@@ -226,9 +228,12 @@ int main(int argc, char** argv) {
     printSorted(dll, folder + "/mtcars.csv");
     printCorrelations(dll, folder + "/longley_missing.csv");
     const bool inverted = printStandardized(dll, folder + "/mtcars.csv");
+    std::printf("\nPrincipal components: %s/mtcars.csv\n\n", folder.c_str());
+    const bool found = printPrincipalComponents(dll, CsvTable(folder + "/mtcars.csv"), "car",
+                                                {"mpg", "disp", "hp", "drat", "wt", "qsec"});
     std::printf("\n%s\n", complete && missing ? "All means agree with the exact ones."
                                               : "Some means differ from the exact ones.");
-    return complete && missing && inverted ? 0 : 1;
+    return complete && missing && inverted && found ? 0 : 1;
   } catch (const std::exception& problem) {
     std::fprintf(stderr, "macro_host: %s\n", problem.what());
     return 2;

@@ -1,0 +1,59 @@
+// Principal components of standardized variables: the eigenvalues of their correlations, how many of them
+// count, the scores of the rows, and how well the axes show each row.
+//
+//     principal_components mtcars.csv
+
+#include <cstdio>
+#include <exception>
+#include <stdexcept>
+
+#include "algebra/covariance.h"
+#include "algebra/products.h"
+#include "algebra/standardization.h"
+#include "components_table.h"
+#include "core/matrix.h"
+#include "csv_table.h"
+#include "decomp/eigen.h"
+
+namespace {
+
+std::vector<double> cellsOf(const matrix& m) {
+  return {m.values, m.values + static_cast<std::ptrdiff_t>(m.nX) * m.pX};
+}
+
+Components componentsOf(const CsvTable& file, const std::vector<std::string>& variables) {
+  const int n = file.rows(), p = static_cast<int>(variables.size());
+  matrix table(n, p, 0.0);
+  for (int j = 0; j < p; ++j) {
+    const std::vector<double> column = file.numbers(variables[static_cast<std::size_t>(j)]);
+    for (int i = 0; i < n; ++i) table.setElement(i, j, column[static_cast<std::size_t>(i)]);
+  }
+
+  matrix correlations(p, p, 0.0), values(p, 1, 0.0), vectors(p, p, 0.0), percentages(p, 1, 0.0),
+      scores(n, p, 0.0), cosines(n, p, 0.0);
+  // Workers take containers by reference to their pointers, and keep those of the right shape.
+  matrix *x = &table, *r = &correlations, *lambda = &values, *z = &vectors, *percent = &percentages,
+         *f = &scores, *c = &cosines;
+  int kept, axes;
+  M_Standardize2(x, n, p, kTrue);
+  M_CovCorr(x, n, p, r, kTrue, nullptr, nullptr, kTrue, kTrue);
+  if (M_Eigen(r, lambda, z, p, 1) != 0) throw std::runtime_error("an eigenvalue was not found");
+  FilterEigen(lambda, p, kTrue, 1e-12, 0.0, 0, 1.0, kept, axes, percent);
+  M_ProductAB(x, n, p, z, p, f);
+  cComputeCosines(f, n, p, c);
+  return {variables,        file.labels("car"), cellsOf(values),  cellsOf(percentages),
+          cellsOf(vectors), cellsOf(scores),    cellsOf(cosines), axes};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    const CsvTable cars(argc > 1 ? argv[1] : "examples/data/mtcars.csv");
+    printComponents(componentsOf(cars, {"mpg", "disp", "hp", "drat", "wt", "qsec"}));
+    return 0;
+  } catch (const std::exception& problem) {
+    std::fprintf(stderr, "principal_components: %s\n", problem.what());
+    return 1;
+  }
+}
