@@ -125,6 +125,9 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_Standardize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
   Public Declare PtrSafe Sub VB_M_StandardizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
   Public Declare PtrSafe Sub VB_M_MeanStDevVarOneInMat Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal IDCol As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Sub VB_M_RemoveCol Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iCol As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_RemoveRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iRow As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_MoveRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iRow As Long, ByVal iNewPos As Long)
   Public Declare PtrSafe Sub VB_M_MinMax Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef VMin As Double, ByRef VMax As Double, ByRef iMissing As Boolean, ByVal MissingPerCol As Boolean)
   Public Declare PtrSafe Sub VB_M_Sums1As2B Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal s1 As Double, ByVal S2 As Double, ByRef oCMat As Double)
   Public Declare PtrSafe Sub VB_M_ProductVB Lib "KAVORATB1C.dll" (ByRef iAVec As Double, ByVal n As Long, ByRef iBMat As Double, ByVal p As Long, ByRef oCVec As Double)
@@ -159,12 +162,19 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_SumByRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare PtrSafe Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iAMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal oMat As LongPtr)
+  Public Declare PtrSafe Sub VB_M_CopyResize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal n2 As Long, ByVal p2 As Long)
+  Public Declare PtrSafe Sub VB_M_ExtractMatToMatDbl Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal nStart As Long, ByVal nEnd As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_ExtractMatToMatStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal nStart As Long, ByVal nEnd As Long, ByVal oMat As LongPtr)
+  Public Declare PtrSafe Sub VB_M_CopyResizeStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal oMat As LongPtr, ByVal n2 As Long, ByVal p2 As Long)
+  Public Declare PtrSafe Function VB_M_IsColConstant Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long) As Long
   Public Declare PtrSafe Sub VB_M_StandardizeByVect Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_StandardizeByVect2 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean)
   Public Declare PtrSafe Sub VB_M_RescaleByVect Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_RescaleByVect2 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean)
+  Public Declare PtrSafe Sub VB_M_ReplaceCatByCodes Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByRef NbCat As Long, ByVal Cat As LongPtr, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_ProductHorizAB Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByRef oMat As Double, ByVal p As Long)
   Public Declare PtrSafe Sub VB_M_ProductHorizAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long)
+  Public Declare PtrSafe Sub VB_M_ReplaceStrByCodes Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByRef NbCat As Long, ByVal Cat As LongPtr, ByRef iMissing As Boolean, ByVal iCodeStart As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_Symmetrize Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iType As Long)
   Public Declare PtrSafe Function VB_M_CheckIfSimOrDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iApriori As Long) As Long
   Public Declare PtrSafe Sub VB_M_TransformSimToDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long)
@@ -186,12 +196,18 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_ProductADiagV Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_SquaredRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
   Public Declare PtrSafe Sub VB_M_SquaredColumns Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
+  Public Declare PtrSafe Sub VB_M_CopyBlock Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal nStart As Long, ByVal nEnd As Long, ByVal pStart As Long, ByVal pEnd As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_M_RemoveCols2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByVal pStart As Long, ByVal pEnd As Long)
+  Public Declare PtrSafe Sub VB_M_RemoveRows2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByVal nStart As Long, ByVal nEnd As Long)
+  Public Declare PtrSafe Sub VB_M_ExtractMatToMatByColDbl Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal pStart As Long, ByVal pEnd As Long, ByRef oMat As Double)
   Public Declare PtrSafe Function VB_M_DeterminantCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef Problem As Boolean) As Double
   Public Declare PtrSafe Sub VB_M_Min Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMinVect As Double)
   Public Declare PtrSafe Sub VB_M_Max Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMaxVect As Double)
   Public Declare PtrSafe Function VB_M_CholDecompCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef oMat As Double) As Long
   Public Declare PtrSafe Sub VB_M_CorrMatFromCovMat Lib "KAVORATB1C.dll" (ByRef iCovMat As Double, ByVal p As Long, ByRef oCorrMat As Double)
+  Public Declare PtrSafe Sub VB_M_PasteBlock Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef ioMat As Double, ByVal n2 As Long, ByVal p2 As Long, ByVal nStart As Long, ByVal pStart As Long)
   Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iBMat As Double, ByRef iVect2 As Double) As Double
+  Public Declare PtrSafe Sub VB_M_CopyToBigger Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal nOut As Long, ByVal pOut As Long)
   Public Declare PtrSafe Sub VB_M_ProductDesignAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByVal iConstraintType As Long, ByRef w As Double, ByRef oInterFreqCat As Double)
   Public Declare PtrSafe Sub VB_M_Log10Matrix Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
   Public Declare PtrSafe Sub VB_M_ProductDiagVA Lib "KAVORATB1C.dll" (ByRef iDiagVect As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef oMat As Double)
@@ -201,6 +217,7 @@ Option Explicit
   Public Declare PtrSafe Function VB_M_InvGeneralized Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByRef oInvMat As Double, ByVal iEps As Double, ByRef oRank As Long) As Long
   Public Declare PtrSafe Sub VB_M_ProductTrADiagVA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_ProductADiagVTrA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
+  Public Declare PtrSafe Function VB_M_RemoveRowsInList Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iList As Long, ByVal nOut As Long, ByRef oMat As Double) As Long
   Public Declare PtrSafe Function VB_SortQVectorLng Lib "KAVORATB1C.dll" (ByRef ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
   Public Declare PtrSafe Function VB_SortQVectorDbl Lib "KAVORATB1C.dll" (ByRef ioVector As Double, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
   Public Declare PtrSafe Function VB_SortQVectorStr Lib "KAVORATB1C.dll" (ByVal ioVector As LongPtr, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
@@ -216,6 +233,29 @@ Option Explicit
   Public Declare PtrSafe Function VB_SortDataBy01Bool Lib "KAVORATB1C.dll" (ByRef iSlave As Boolean, ByVal n As Long, ByVal p As Long, ByRef iMaster As Double, ByVal nOut As Long, ByVal KeepInitialOrder As Boolean) As Long
   Public Declare PtrSafe Sub VB_SortApply Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iSortVect As Double, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_SortApplyStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByRef iSortVect As Double, ByVal oMat As LongPtr)
+  Public Declare PtrSafe Sub VB_BuildDisjunctiveTable Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal NbCatTotal As Long, ByRef NbCat As Long, ByVal Cat As LongPtr, ByRef FreqCat As Double, ByVal pMaxCat As Long, ByRef oMat As Double, ByVal ConstraintType As Long, ByVal LeaveFirstCol As Long)
+  Public Declare PtrSafe Sub VB_HMergeVectors Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal NbRowVect1 As Long, ByRef iVect2 As Double, ByVal NbRowVect2 As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_HMergeTableVect Lib "KAVORATB1C.dll" (ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef iVect As Double, ByVal NbRowVect As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_HMergeTableVect2 Lib "KAVORATB1C.dll" (ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef iVect As Double, ByVal NbRowVect As Long)
+  Public Declare PtrSafe Sub VB_HMergeVectTable Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal NbRowVect As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_HMergeVectColDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal NbRowVect As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal iCol As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_VMergeVectorsDbl Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByVal p1 As Long, ByRef iVector2 As Double, ByVal p2 As Long, ByRef oVector As Double)
+  Public Declare PtrSafe Sub VB_VMergeVectorsDbl2 Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByVal p1 As Long, ByRef iVector2 As Double, ByVal p2 As Long)
+  Public Declare PtrSafe Sub VB_VMergeVectorsStr Lib "KAVORATB1C.dll" (ByVal iVector1 As LongPtr, ByVal p1 As Long, ByVal iVector2 As LongPtr, ByVal p2 As Long, ByVal oVector As LongPtr)
+  Public Declare PtrSafe Sub VB_VMergeVectorsStr2 Lib "KAVORATB1C.dll" (ByVal iVector1 As LongPtr, ByVal p1 As Long, ByVal iVector2 As LongPtr, ByVal p2 As Long)
+  Public Declare PtrSafe Sub VB_HMergeTablesDbl Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_HMergeTablesDbl2 Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long)
+  Public Declare PtrSafe Sub VB_HMergeTablesBool Lib "KAVORATB1C.dll" (ByRef iMat1 As Boolean, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Boolean, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef oMat As Boolean)
+  Public Declare PtrSafe Sub VB_HMergeTablesBool2 Lib "KAVORATB1C.dll" (ByRef iMat1 As Boolean, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Boolean, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long)
+  Public Declare PtrSafe Sub VB_HMergeTablesStr Lib "KAVORATB1C.dll" (ByVal iMat1 As LongPtr, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByVal iMat2 As LongPtr, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByVal oMat As LongPtr)
+  Public Declare PtrSafe Sub VB_HMergeTablesStr2 Lib "KAVORATB1C.dll" (ByVal iMat1 As LongPtr, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByVal iMat2 As LongPtr, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long)
+  Public Declare PtrSafe Sub VB_VMergeTablesDbl Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Sub VB_CopyMatrixColToMatrixCol Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal col As Long, ByRef ioMat As Double, ByVal ColID As Long, ByVal iRedimMat As Boolean)
+  Public Declare PtrSafe Sub VB_CopyMatrixColToVector Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal ColID As Long, ByRef oVector As Double)
+  Public Declare PtrSafe Sub VB_CopyMatrixRowToMatrixRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal [Line] As Long, ByRef ioMat As Double, ByVal n2 As Long, ByVal RowID As Long, ByVal iRedimMat As Boolean)
+  Public Declare PtrSafe Sub VB_CopyMatrixColToOneColMatStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal iCol As Long, ByVal oVectMat As LongPtr)
+  Public Declare PtrSafe Sub VB_GenerateIndicator Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iStart As Long, ByVal iEnd As Long)
+  Public Declare PtrSafe Sub VB_VMergeVectorsBool2 Lib "KAVORATB1C.dll" (ByRef ioVect1 As Boolean, ByVal n1 As Long, ByRef iVect2 As Boolean, ByVal n2 As Long)
   Public Declare PtrSafe Function VB_InitVectorToFalse Lib "KAVORATB1C.dll" (ByRef oVector As Boolean, ByVal n As Long) As Long
   Public Declare PtrSafe Function VB_IsMissingValueDbl Lib "KAVORATB1C.dll" (ByVal iValue As Double) As Boolean
   Public Declare PtrSafe Function VB_IsMissingValueStr Lib "KAVORATB1C.dll" (ByVal iValue As LongPtr) As Boolean
@@ -223,9 +263,12 @@ Option Explicit
   Public Declare PtrSafe Function VB_MAPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
   Public Declare PtrSafe Function VB_RMSE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByVal nY As Long, ByVal p As Long, ByRef PredY As Double, ByVal DF As Long) As Double
   Public Declare PtrSafe Sub VB_FilterEigen Lib "KAVORATB1C.dll" (ByRef iEigenValues As Double, ByVal p As Long, ByVal iDoFilter As Boolean, ByVal iFilter As Double, ByVal iMinPerc As Double, ByVal iMaxFact As Long, ByVal iMaxVal As Double, ByRef oNbEigen As Long, ByRef oDispEigen As Long, ByRef Percent As Double)
+  Public Declare PtrSafe Function RunOLSBasic Lib "KAVORATB1C.dll" (ByVal n As Long, ByVal p As Long, ByRef X As Double, ByRef Y As Double, ByRef w As Double, ByVal iPolyDegree As Long, ByVal iInteract2 As Boolean, ByVal iFixedIntercept As Boolean, ByVal iTolerance As Double, ByRef oCoeffs As Double, ByRef oPredY As Double) As Long
+  Public Declare PtrSafe Function RunOLSBasic2 Lib "KAVORATB1C.dll" (ByVal n As Long, ByVal p As Long, ByRef X As Double, ByRef Y As Double, ByRef w As Double, ByVal iPolyDegree As Long, ByVal iInteract2 As Boolean, ByVal iFixedIntercept As Boolean, ByVal iTolerance As Double, ByRef oCoeffs As Double, ByRef oStDevCoeffs As Double, ByRef oPredY As Double) As Long
   Public Declare PtrSafe Sub VB_CheckTolerance Lib "KAVORATB1C.dll" (ByRef R As Double, ByVal p As Long, ByVal NbFactors As Long, ByRef FactActive As Long, ByRef FactType As Long, ByRef FactSubParents As Long, ByVal Tolerance As Double, ByVal FastRemoval As Boolean, ByVal iCheckall As Boolean, ByVal WithAnEq0 As Boolean, ByRef oNotToleratedVars As Long, ByRef oTolerances As Double, ByRef oVIF As Double)
   Public Declare PtrSafe Sub ComputeCosines Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oCosines As Double)
   Public Declare PtrSafe Sub VB_BiplotTransData Lib "KAVORATB1C.dll" (ByRef iScores As Double, ByRef iScoresSupp As Double, ByRef iLoadings As Double, ByVal n As Long, ByVal nSupp As Long, ByVal p As Long, ByVal iNbEigen As Long, ByRef iEigenValues As Double, ByVal iScale As Double, ByVal iExpo As Double, ByRef oNewScores As Double, ByRef oNewLoadings As Double)
+  Public Declare PtrSafe Function NewtonRaphson Lib "KAVORATB1C.dll" (ByRef ioParamVect As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv1 As Double, ByRef iDeriv2 As Double, ByVal iConvergence As Double, ByRef oStdErrVect As Double, ByRef InvDeriv2 As Double, ByVal Checkchange As Boolean, ByVal Maxchange As Double) As Long
   Public Declare PtrSafe Function CleanConstraintsAndInvert Lib "KAVORATB1C.dll" (ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv As Double, ByRef oInvDeriv As Double) As Long
   Public Declare PtrSafe Function CleanConstraintsAndInvertTriang Lib "KAVORATB1C.dll" (ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv As Double, ByVal iIsLower As Boolean, ByRef oInvDeriv As Double) As Long
   Public Declare PtrSafe Function VB_MPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
@@ -351,6 +394,9 @@ Option Explicit
   Public Declare Sub VB_M_Standardize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
   Public Declare Sub VB_M_StandardizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
   Public Declare Sub VB_M_MeanStDevVarOneInMat Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal IDCol As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Sub VB_M_RemoveCol Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iCol As Long, ByRef oMat As Double)
+  Public Declare Sub VB_M_RemoveRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iRow As Long, ByRef oMat As Double)
+  Public Declare Sub VB_M_MoveRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iRow As Long, ByVal iNewPos As Long)
   Public Declare Sub VB_M_MinMax Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef VMin As Double, ByRef VMax As Double, ByRef iMissing As Boolean, ByVal MissingPerCol As Boolean)
   Public Declare Sub VB_M_Sums1As2B Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal s1 As Double, ByVal S2 As Double, ByRef oCMat As Double)
   Public Declare Sub VB_M_ProductVB Lib "KAVORATB1C.dll" (ByRef iAVec As Double, ByVal n As Long, ByRef iBMat As Double, ByVal p As Long, ByRef oCVec As Double)
@@ -385,12 +431,19 @@ Option Explicit
   Public Declare Sub VB_M_SumByRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iAMat As Long, ByVal n As Long, ByVal p As Long, ByVal oMat As Long)
+  Public Declare Sub VB_M_CopyResize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal n2 As Long, ByVal p2 As Long)
+  Public Declare Sub VB_M_ExtractMatToMatDbl Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal nStart As Long, ByVal nEnd As Long, ByRef oMat As Double)
+  Public Declare Sub VB_M_ExtractMatToMatStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal nStart As Long, ByVal nEnd As Long, ByVal oMat As Long)
+  Public Declare Sub VB_M_CopyResizeStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal oMat As Long, ByVal n2 As Long, ByVal p2 As Long)
+  Public Declare Function VB_M_IsColConstant Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long) As Long
   Public Declare Sub VB_M_StandardizeByVect Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByRef oMat As Double)
   Public Declare Sub VB_M_StandardizeByVect2 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean)
   Public Declare Sub VB_M_RescaleByVect Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean, ByRef oMat As Double)
   Public Declare Sub VB_M_RescaleByVect2 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iLowerBound As Double, ByVal iUpperBound As Double, ByRef iMissing As Boolean)
+  Public Declare Sub VB_M_ReplaceCatByCodes Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByRef NbCat As Long, ByVal Cat As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_ProductHorizAB Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByRef oMat As Double, ByVal p As Long)
   Public Declare Sub VB_M_ProductHorizAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long)
+  Public Declare Sub VB_M_ReplaceStrByCodes Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByRef NbCat As Long, ByVal Cat As Long, ByRef iMissing As Boolean, ByVal iCodeStart As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_Symmetrize Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iType As Long)
   Public Declare Function VB_M_CheckIfSimOrDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iApriori As Long) As Long
   Public Declare Sub VB_M_TransformSimToDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long)
@@ -412,12 +465,18 @@ Option Explicit
   Public Declare Sub VB_M_ProductADiagV Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare Sub VB_M_SquaredRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
   Public Declare Sub VB_M_SquaredColumns Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oVect As Double)
+  Public Declare Sub VB_M_CopyBlock Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal nStart As Long, ByVal nEnd As Long, ByVal pStart As Long, ByVal pEnd As Long, ByRef oMat As Double)
+  Public Declare Sub VB_M_RemoveCols2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByVal pStart As Long, ByVal pEnd As Long)
+  Public Declare Sub VB_M_RemoveRows2 Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long, ByVal nStart As Long, ByVal nEnd As Long)
+  Public Declare Sub VB_M_ExtractMatToMatByColDbl Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal pStart As Long, ByVal pEnd As Long, ByRef oMat As Double)
   Public Declare Function VB_M_DeterminantCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef Problem As Boolean) As Double
   Public Declare Sub VB_M_Min Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMinVect As Double)
   Public Declare Sub VB_M_Max Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMaxVect As Double)
   Public Declare Function VB_M_CholDecompCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef oMat As Double) As Long
   Public Declare Sub VB_M_CorrMatFromCovMat Lib "KAVORATB1C.dll" (ByRef iCovMat As Double, ByVal p As Long, ByRef oCorrMat As Double)
+  Public Declare Sub VB_M_PasteBlock Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef ioMat As Double, ByVal n2 As Long, ByVal p2 As Long, ByVal nStart As Long, ByVal pStart As Long)
   Public Declare Function VB_M_ProductTrV1BV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iBMat As Double, ByRef iVect2 As Double) As Double
+  Public Declare Sub VB_M_CopyToBigger Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal nOut As Long, ByVal pOut As Long)
   Public Declare Sub VB_M_ProductDesignAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByVal iConstraintType As Long, ByRef w As Double, ByRef oInterFreqCat As Double)
   Public Declare Sub VB_M_Log10Matrix Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
   Public Declare Sub VB_M_ProductDiagVA Lib "KAVORATB1C.dll" (ByRef iDiagVect As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef oMat As Double)
@@ -427,6 +486,7 @@ Option Explicit
   Public Declare Function VB_M_InvGeneralized Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByRef oInvMat As Double, ByVal iEps As Double, ByRef oRank As Long) As Long
   Public Declare Sub VB_M_ProductTrADiagVA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
   Public Declare Sub VB_M_ProductADiagVTrA Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iDiagVect As Double, ByRef oMat As Double)
+  Public Declare Function VB_M_RemoveRowsInList Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iList As Long, ByVal nOut As Long, ByRef oMat As Double) As Long
   Public Declare Function VB_SortQVectorLng Lib "KAVORATB1C.dll" (ByRef ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
   Public Declare Function VB_SortQVectorDbl Lib "KAVORATB1C.dll" (ByRef ioVector As Double, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
   Public Declare Function VB_SortQVectorStr Lib "KAVORATB1C.dll" (ByVal ioVector As Long, ByVal n As Long, ByVal iLowerBound As Long, ByVal iUpperBound As Long, ByVal iSortdown As Boolean) As Long
@@ -442,6 +502,29 @@ Option Explicit
   Public Declare Function VB_SortDataBy01Bool Lib "KAVORATB1C.dll" (ByRef iSlave As Boolean, ByVal n As Long, ByVal p As Long, ByRef iMaster As Double, ByVal nOut As Long, ByVal KeepInitialOrder As Boolean) As Long
   Public Declare Sub VB_SortApply Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef iSortVect As Double, ByRef oMat As Double)
   Public Declare Sub VB_SortApplyStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByRef iSortVect As Double, ByVal oMat As Long)
+  Public Declare Sub VB_BuildDisjunctiveTable Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal NbCatTotal As Long, ByRef NbCat As Long, ByVal Cat As Long, ByRef FreqCat As Double, ByVal pMaxCat As Long, ByRef oMat As Double, ByVal ConstraintType As Long, ByVal LeaveFirstCol As Long)
+  Public Declare Sub VB_HMergeVectors Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal NbRowVect1 As Long, ByRef iVect2 As Double, ByVal NbRowVect2 As Long, ByRef oMat As Double)
+  Public Declare Sub VB_HMergeTableVect Lib "KAVORATB1C.dll" (ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef iVect As Double, ByVal NbRowVect As Long, ByRef oMat As Double)
+  Public Declare Sub VB_HMergeTableVect2 Lib "KAVORATB1C.dll" (ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef iVect As Double, ByVal NbRowVect As Long)
+  Public Declare Sub VB_HMergeVectTable Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal NbRowVect As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef oMat As Double)
+  Public Declare Sub VB_HMergeVectColDbl Lib "KAVORATB1C.dll" (ByRef iVect As Double, ByVal NbRowVect As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal iCol As Long, ByRef oMat As Double)
+  Public Declare Sub VB_VMergeVectorsDbl Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByVal p1 As Long, ByRef iVector2 As Double, ByVal p2 As Long, ByRef oVector As Double)
+  Public Declare Sub VB_VMergeVectorsDbl2 Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByVal p1 As Long, ByRef iVector2 As Double, ByVal p2 As Long)
+  Public Declare Sub VB_VMergeVectorsStr Lib "KAVORATB1C.dll" (ByVal iVector1 As Long, ByVal p1 As Long, ByVal iVector2 As Long, ByVal p2 As Long, ByVal oVector As Long)
+  Public Declare Sub VB_VMergeVectorsStr2 Lib "KAVORATB1C.dll" (ByVal iVector1 As Long, ByVal p1 As Long, ByVal iVector2 As Long, ByVal p2 As Long)
+  Public Declare Sub VB_HMergeTablesDbl Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef oMat As Double)
+  Public Declare Sub VB_HMergeTablesDbl2 Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long)
+  Public Declare Sub VB_HMergeTablesBool Lib "KAVORATB1C.dll" (ByRef iMat1 As Boolean, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Boolean, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef oMat As Boolean)
+  Public Declare Sub VB_HMergeTablesBool2 Lib "KAVORATB1C.dll" (ByRef iMat1 As Boolean, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Boolean, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long)
+  Public Declare Sub VB_HMergeTablesStr Lib "KAVORATB1C.dll" (ByVal iMat1 As Long, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByVal iMat2 As Long, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByVal oMat As Long)
+  Public Declare Sub VB_HMergeTablesStr2 Lib "KAVORATB1C.dll" (ByVal iMat1 As Long, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByVal iMat2 As Long, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long)
+  Public Declare Sub VB_VMergeTablesDbl Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal NbRowMat1 As Long, ByVal NbColMat1 As Long, ByRef iMat2 As Double, ByVal NbRowMat2 As Long, ByVal NbColMat2 As Long, ByRef oMat As Double)
+  Public Declare Sub VB_CopyMatrixColToMatrixCol Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal col As Long, ByRef ioMat As Double, ByVal ColID As Long, ByVal iRedimMat As Boolean)
+  Public Declare Sub VB_CopyMatrixColToVector Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal ColID As Long, ByRef oVector As Double)
+  Public Declare Sub VB_CopyMatrixRowToMatrixRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal [Line] As Long, ByRef ioMat As Double, ByVal n2 As Long, ByVal RowID As Long, ByVal iRedimMat As Boolean)
+  Public Declare Sub VB_CopyMatrixColToOneColMatStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal iCol As Long, ByVal oVectMat As Long)
+  Public Declare Sub VB_GenerateIndicator Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iStart As Long, ByVal iEnd As Long)
+  Public Declare Sub VB_VMergeVectorsBool2 Lib "KAVORATB1C.dll" (ByRef ioVect1 As Boolean, ByVal n1 As Long, ByRef iVect2 As Boolean, ByVal n2 As Long)
   Public Declare Function VB_InitVectorToFalse Lib "KAVORATB1C.dll" (ByRef oVector As Boolean, ByVal n As Long) As Long
   Public Declare Function VB_IsMissingValueDbl Lib "KAVORATB1C.dll" (ByVal iValue As Double) As Boolean
   Public Declare Function VB_IsMissingValueStr Lib "KAVORATB1C.dll" (ByVal iValue As Long) As Boolean
@@ -449,9 +532,12 @@ Option Explicit
   Public Declare Function VB_MAPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
   Public Declare Function VB_RMSE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByVal nY As Long, ByVal p As Long, ByRef PredY As Double, ByVal DF As Long) As Double
   Public Declare Sub VB_FilterEigen Lib "KAVORATB1C.dll" (ByRef iEigenValues As Double, ByVal p As Long, ByVal iDoFilter As Boolean, ByVal iFilter As Double, ByVal iMinPerc As Double, ByVal iMaxFact As Long, ByVal iMaxVal As Double, ByRef oNbEigen As Long, ByRef oDispEigen As Long, ByRef Percent As Double)
+  Public Declare Function RunOLSBasic Lib "KAVORATB1C.dll" (ByVal n As Long, ByVal p As Long, ByRef X As Double, ByRef Y As Double, ByRef w As Double, ByVal iPolyDegree As Long, ByVal iInteract2 As Boolean, ByVal iFixedIntercept As Boolean, ByVal iTolerance As Double, ByRef oCoeffs As Double, ByRef oPredY As Double) As Long
+  Public Declare Function RunOLSBasic2 Lib "KAVORATB1C.dll" (ByVal n As Long, ByVal p As Long, ByRef X As Double, ByRef Y As Double, ByRef w As Double, ByVal iPolyDegree As Long, ByVal iInteract2 As Boolean, ByVal iFixedIntercept As Boolean, ByVal iTolerance As Double, ByRef oCoeffs As Double, ByRef oStDevCoeffs As Double, ByRef oPredY As Double) As Long
   Public Declare Sub VB_CheckTolerance Lib "KAVORATB1C.dll" (ByRef R As Double, ByVal p As Long, ByVal NbFactors As Long, ByRef FactActive As Long, ByRef FactType As Long, ByRef FactSubParents As Long, ByVal Tolerance As Double, ByVal FastRemoval As Boolean, ByVal iCheckall As Boolean, ByVal WithAnEq0 As Boolean, ByRef oNotToleratedVars As Long, ByRef oTolerances As Double, ByRef oVIF As Double)
   Public Declare Sub ComputeCosines Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oCosines As Double)
   Public Declare Sub VB_BiplotTransData Lib "KAVORATB1C.dll" (ByRef iScores As Double, ByRef iScoresSupp As Double, ByRef iLoadings As Double, ByVal n As Long, ByVal nSupp As Long, ByVal p As Long, ByVal iNbEigen As Long, ByRef iEigenValues As Double, ByVal iScale As Double, ByVal iExpo As Double, ByRef oNewScores As Double, ByRef oNewLoadings As Double)
+  Public Declare Function NewtonRaphson Lib "KAVORATB1C.dll" (ByRef ioParamVect As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv1 As Double, ByRef iDeriv2 As Double, ByVal iConvergence As Double, ByRef oStdErrVect As Double, ByRef InvDeriv2 As Double, ByVal Checkchange As Boolean, ByVal Maxchange As Double) As Long
   Public Declare Function CleanConstraintsAndInvert Lib "KAVORATB1C.dll" (ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv As Double, ByRef oInvDeriv As Double) As Long
   Public Declare Function CleanConstraintsAndInvertTriang Lib "KAVORATB1C.dll" (ByVal p As Long, ByRef iConstraints As Long, ByRef iDeriv As Double, ByVal iIsLower As Boolean, ByRef oInvDeriv As Double) As Long
   Public Declare Function VB_MPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double

@@ -24,11 +24,11 @@ bool printPrincipalComponents(const macro::Module& dll, const CsvTable& table, c
   int kept;
   dll.call(L"VB_M_Standardize2", {x, rows, columns, true});
   dll.integer(L"VB_M_CovCorr", {x, rows, columns, correlations, true, excluded, weights, true, true});
-  const int status = dll.integer(L"VB_M_Eigen", {correlations, c.eigenvalues, c.vectors, columns, true});
+  if (dll.integer(L"VB_M_Eigen", {correlations, c.eigenvalues, c.vectors, columns, true}) != 0) return false;
   dll.call(L"VB_FilterEigen",
            {c.eigenvalues, columns, true, 1e-12, 0.0, 0, 1.0, &kept, &c.axes, c.percentages});
   dll.integer(L"VB_M_ProductAB", {x, rows, columns, c.vectors, columns, c.scores});
   dll.call(L"ComputeCosines", {c.scores, rows, columns, c.cosines});
   printComponents(c);
-  return status == 0;
+  return true;
 }

@@ -7,6 +7,7 @@
 // writes them. A worker that cannot fail once it writes may do so Directly.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -58,16 +59,18 @@ class InTable {
   LocalMatrix table_;
 };
 
-/// Operands of a worker that writes every cell of its only result, and does nothing that can fail once it has
-/// begun. It may write to the macro's array itself, unless it reads from there: of a table that is no more
-/// work than a copy, fresh memory and the copy would be most of the cost.
+/// Operands of a worker that does nothing that can fail once it writes to its only result, of which it writes
+/// every cell, or rewrites some. It may write to the macro's array itself, unless it reads from there: of a
+/// table that is no more work than a copy, fresh memory and the copy would be most of the cost.
 class Directly {
  public:
-  explicit Directly(const InTable& a) : operands_{&a, &a} {}
+  Directly() : operands_{nullptr, nullptr} {}
+  explicit Directly(const InTable& a) : operands_{&a, nullptr} {}
   Directly(const InTable& a, const InTable& b) : operands_{&a, &b} {}
 
   bool readFrom(const double* array, std::int64_t cells) const {
-    return operands_[0]->reads(array, cells) || operands_[1]->reads(array, cells);
+    return std::any_of(operands_, operands_ + 2,
+                       [=](const InTable* a) { return a != nullptr && a->reads(array, cells); });
   }
 
  private:
@@ -162,6 +165,16 @@ class OutArray {
   }
 
  protected:
+  /// What the array holds matters.
+  struct Rewritten {};
+  OutArray(Element* array, int n, int p, const Directly& operands, Rewritten) : array_(array) {
+    if (operands.readFrom(array, addressing::cellCount(n, p))) {
+      given_.emplace(n, p, required(array, n, p), true);
+    } else {
+      given_.emplace(n, p, required(array, n, p), InPlace());
+    }
+    result_ = &*given_;
+  }
   OutArray(Element* array, int n, int p, Cells cells)
       : array_(array),
         given_(std::in_place, n, p, required(array, n, p), cells == Cells::KeepAll),
@@ -185,6 +198,10 @@ class InOutArray : public OutArray<Element> {
  public:
   InOutArray(Element* array, int n, int p, Cells cells = Cells::FlagMissing)
       : OutArray<Element>(array, n, p, cells) {}
+
+  /// All cells kept; the worker may see the array itself.
+  InOutArray(Element* array, int n, int p, const Directly& operands)
+      : OutArray<Element>(array, n, p, operands, typename OutArray<Element>::Rewritten()) {}
 };
 
 using InOutTable = InOutArray<double>;

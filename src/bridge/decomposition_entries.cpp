@@ -29,18 +29,17 @@ int entries::VB_M_CholDecompCleaned(double* iMat, int p, int* iConstraints, doub
   const InInts excluded(iConstraints, p);
   OutTable l(oMat, p, p);
   const int status = M_CholDecompCleaned(a, p, excluded, l);
-  store(l);
+  if (status == 0) store(l);
   return status;
 }
 
 void entries::VB_M_LUDecomp(double* iAMat, int n, int* indx, double* d, VARIANT_BOOL* Problem) {
   InOutTable a(iAMat, n, n);
-  // Rows that are not exchanged because it fails before keep what the macro had.
-  InOutInts index(indx, n, 1);
+  OutInts index(indx, n, 1);
   double parity;
   short status;
   M_LUDecomp(a, n, index, parity, status);
-  store(a, index);
+  if (status >= 0) store(a, index);
   give(d, parity);
   give(Problem, status);
 }

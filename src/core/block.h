@@ -85,6 +85,11 @@ class Flags : public Reader<char> {
   bool operator[](std::ptrdiff_t k) const { return cells_[k] != 0; }
 };
 
+/// Copies a block to memory of its own, column after column.
+inline void copyTo(const Values& from, int n, int p, double* to) {
+  for (int j = 0; j < p && n > 0; ++j) std::copy_n(from.column(j), n, to + std::ptrdiff_t{n} * j);
+}
+
 /// Whether writes to a block are plain: it lies inside the container, its columns do not overlap, and no cell
 /// of it is flagged.
 inline bool isPlain(const matrix* m, int n, int p) {

@@ -24,8 +24,7 @@ class LuDecomposition {
         cells_(addressing::elementsInMemory<double>(n_, n_)),
         places_(static_cast<std::size_t>(n_)),
         panels_(cells_.data(), n_) {
-    const block::Values source(&a, n_, n_);
-    for (int j = 0; j < n_; ++j) std::copy_n(source.column(j), n_, column(j));
+    block::copyTo(block::Values(&a, n_, n_), n_, n_, cells_.data());
     singular_ = !decompose(pivotThreshold(tol));
   }
 

@@ -1,6 +1,7 @@
 // QR steps on a bidiagonal table, see M_SVDecomp. Internal.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
@@ -70,9 +71,9 @@ class QrSteps {
   }
 
  private:
-  /// An absolute threshold: see M_SVDecomp.
+  /// An absolute threshold: see M_SVDecomp. What is 0.0 stays so beside infinity too: nothing is split twice.
   static bool isNegligible(double neighbours, double x) {
-    return std::fabs((neighbours + std::fabs(x)) - neighbours) < kEpsilon;
+    return x == 0.0 || std::fabs((neighbours + std::fabs(x)) - neighbours) < kEpsilon;
   }
 
   /// The last l below m with a negligible e(l), which becomes 0.0; 0 when there is none.

@@ -1,7 +1,8 @@
 #include <algorithm>
-#include <cmath>
 
+#include "core/addressing.h"
 #include "decomp/householder.h"
+#include "decomp/norm.h"
 #include "decomp/reflectors.h"
 #include "kernels/kernels.h"
 
@@ -9,30 +10,11 @@ namespace householder {
 
 namespace {
 
-std::size_t sizeOf(int n) { return static_cast<std::size_t>(n); }
-
-/// Euclidean norm as DNRM2 has it.
-double norm(const double* x, int n) {
-  if (n < 1) return 0.0;
-  if (n == 1) return std::fabs(x[0]);
-  double scale = 0.0;
-  double squares = 1.0;
-  for (int k = 0; k < n; ++k) {
-    const double size = std::fabs(x[k]);
-    if (size == 0.0) continue;
-    const bool larger = size > scale;
-    const double ratio = larger ? scale / size : size / scale;
-    squares = larger ? 1.0 + squares * (ratio * ratio) : squares + ratio * ratio;
-    if (larger) scale = size;
-  }
-  return scale * scalar::sqr(squares);
-}
-
 /// Makes x its own reflector.
 ///
 /// @return what the reflection leaves of x
 double makeReflector(double* x, int n) {
-  double size = norm(x, n);
+  double size = scaledNorm(n, [=](int k) { return x[k]; });
   if (size != 0.0) {
     if (x[0] != 0.0) size = scalar::FSign(size, x[0]);
     const double reciprocal = 1.0 / size;
@@ -52,7 +34,7 @@ Bidiagonalization::Bidiagonalization(const bidiagonal::Job& job, const elements:
       work_(sizeOf(job.n)),
       times_(sizeOf(job.p)),
       nextWork_(sizeOf(job.n)),
-      rows_(sizeOf(job.rowSteps())) {
+      rows_(addressing::elementsInMemory<double>(job.p, job.rowSteps())) {
   const int steps = std::max(job.columnSteps(), job.rowSteps());
   for (int l = 0; l < steps; ++l) {
     reflectColumn(l);
@@ -102,7 +84,7 @@ void Bidiagonalization::reflectRow(int l) {
   bool reflected = false;
   if (l < job_.rowSteps()) {
     e[sizeOf(l)] = makeReflector(e.data() + l + 1, others);
-    rows_[sizeOf(l)].assign(e.begin() + l + 1, e.begin() + job_.p);
+    std::copy(e.begin() + l + 1, e.begin() + job_.p, rowReflector(l));
     reflected = e[sizeOf(l)] != 0.0 && below > 0;
   }
   std::fill(nextWork_.begin(), nextWork_.end(), 0.0);
@@ -124,18 +106,12 @@ void Bidiagonalization::generateLeft(const elements::Plain& u) const {
   std::vector<reflectors::Reflector> order;
   std::vector<int> startsAfter(sizeOf(job_.leftColumns), 0);
   std::vector<const double*> start(startsAfter.size(), nullptr);
-  std::vector<std::vector<double>> negatives;
-  negatives.reserve(sizeOf(std::max(job_.columnSteps(), 0)));
   for (int l = job_.columnSteps() - 1; l >= 0; --l) {
     const double* v = x_.column(l) + l;
     const bool reflects = s[sizeOf(l)] != 0.0;
     if (reflects) order.push_back({l, job_.n, v, v, -v[0]});
     startsAfter[sizeOf(l)] = static_cast<int>(order.size());
-    if (!reflects) continue;
-    std::vector<double>& column = negatives.emplace_back(v, v + (job_.n - l));
-    for (double& cell : column) cell = -1.0 * cell;
-    column[0] = 1.0 + column[0];
-    start[sizeOf(l)] = column.data();
+    if (reflects) start[sizeOf(l)] = v;
   }
   reflectors::accumulate(order, startsAfter, start, job_.n, u);
 }
@@ -146,7 +122,7 @@ void Bidiagonalization::generateRight(const elements::Plain& v) const {
   const std::vector<const double*> units(startsAfter.size(), nullptr);
   for (int l = job_.p - 1; l >= 0; --l) {
     if (l < job_.rowSteps() && e[sizeOf(l)] != 0.0) {
-      const double* row = rows_[sizeOf(l)].data();
+      const double* row = rowReflector(l);
       order.push_back({l + 1, job_.p, row, row, -row[0]});
     }
     startsAfter[sizeOf(l)] = static_cast<int>(order.size());

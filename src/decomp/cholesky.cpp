@@ -69,7 +69,7 @@ class RowPanels {
         divide(i, cells, row(i)[i], first, 0, used);
       } else {
         takeOff(i, panel(0) + ownRow, kernel_.sides);
-        if (!root(i, cells, first, ownRow, used)) return;
+        if (!root(i, cells, first, ownRow, used)) break;
       }
     }
     for (int t = 0; t < used; ++t) {
@@ -134,10 +134,7 @@ int M_CholDecompCleaned(const matrix* a, int n, const matrix* excluded, matrix*&
   const auto m = static_cast<int>(kept.size());
   matrix small(m, m), factor(m, m, 0.0);
   kept::extract(a, n, kept, small);
-  if (decomposeInMemory(block::Values(&small, m, m), m, factor.values, m) != 0) {
-    matrix::matCheck(l, n, n, 0.0);
-    return kNotPositive;
-  }
-  kept::scatter(factor, kept, n, l);
-  return 0;
+  const int status = decomposeInMemory(block::Values(&small, m, m), m, factor.values, m);
+  if (status == 0) kept::scatter(factor, kept, n, l);
+  return status;
 }

@@ -1,6 +1,8 @@
 #include "decomp/collinearity.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <vector>
 
 #include "core/block.h"
@@ -17,19 +19,6 @@ constexpr int kCollinear = 60000;
 constexpr double kSame = 0.999999999999;
 
 double inflationOf(double tolerance) { return tolerance == 0.0 ? kMissing : 1.0 / tolerance; }
-
-double smallestTolerance(const double* s, int p, int k, double tolerance) {
-  const double d = packed::at(s, k, k);
-  if (!(d > 0.0) || std::fabs(d) < tolerance) return d;
-  double least = d;
-  for (int j = 0; j < p; ++j) {
-    const double own = packed::at(s, j, j);
-    if (j == k || !(own < 0.0)) continue;
-    const double shared = packed::at(s, j, k);
-    least = std::min(least, 1.0 / (std::fabs(own) + shared * shared / d));
-  }
-  return least;
-}
 
 class ToleranceCheck {
  public:
@@ -100,11 +89,12 @@ class ToleranceCheck {
 
   bool maySweepOn(int j) {
     if ((statusOf(j) != kUsable && sweepAll_ != kTrue) || statusOf(j) == kConstant) return false;
-    const double left = smallestTolerance(work_.data(), p_, j, tolerance_);
+    const double left = packed::toleranceWith(work_.data(), p_, j, tolerance_);
     if (!(left < tolerance_)) return true;
-    if (markOthers_ == kTrue && std::fabs(packed::at(work_.data(), j, j)) < tolerance_) {
-      mark(j, kCollinear, left);
-    }
+    if (markOthers_ != kTrue) return false;
+    // Too little would be left of others, but enough of its own: it is swept on all the same.
+    if (!(std::fabs(packed::at(work_.data(), j, j)) < tolerance_)) return true;
+    mark(j, kCollinear, left);
     return false;
   }
 
@@ -122,10 +112,23 @@ class ToleranceCheck {
 
 }  // namespace
 
-double OLSCheckIfIn(const matrix* packed, int p, int k, double tolerance) {
+double packed::toleranceWith(const double* s, int p, int k, double tolerance) {
+  const double d = packed::at(s, k, k);
+  if (!(d > 0.0) || std::fabs(d) < tolerance) return d;
+  double least = d;
+  for (int j = 0; j < p; ++j) {
+    const double own = packed::at(s, j, j);
+    if (j == k || !(own < 0.0)) continue;
+    const double shared = packed::at(s, j, k);
+    least = std::min(least, 1.0 / (std::fabs(own) + shared * shared / d));
+  }
+  return least;
+}
+
+double OLSCheckIfIn(const matrix* swept, int p, int k, double tolerance) {
   if (k < 1 || k > p) return kOutside;
-  const block::Values cells(packed, packed::cellsOf(p));
-  return smallestTolerance(cells.data(), p, k - 1, tolerance);
+  const block::Values cells(swept, packed::cellsOf(p));
+  return packed::toleranceWith(cells.data(), p, k - 1, tolerance);
 }
 
 void CheckTolerance(const matrix* r, int p, int groups, const matrix* selection, const matrix*,
@@ -134,9 +137,10 @@ void CheckTolerance(const matrix* r, int p, int groups, const matrix* selection,
   if (p < 1) return;
   ToleranceCheck check(r, p, tolerance, markOthers, sweepAll);
   check.screen();
-  const block::Values selected(selection, std::max(groups, 0)), group(groupOf, p);
-  for (int h = groups; h >= 1; --h) {
-    if (selected[h - 1] != 1.0) continue;
+  const block::Values group(groupOf, p);
+  const std::int64_t cells = selection == nullptr ? 0 : addressing::cellCount(*selection);
+  for (int h = static_cast<int>(std::min<std::int64_t>(groups, cells)); h >= 1; --h) {
+    if (selection->getElement(h - 1) != 1.0) continue;
     int begin = 0;
     while (begin < p && group[begin] != h) ++begin;
     int end = begin;

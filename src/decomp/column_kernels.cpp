@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/addressing.h"
+#include "decomp/norm.h"
 #include "decomp/singular_values.h"
 #include "platform/scalar.h"
 
@@ -85,24 +86,8 @@ void drotg(double& a, double& b, double& c, double& s) {
 }
 
 double DNRM2(int n, const matrix* x, int step, int row, int column, short) {
-  if (n < 1 || step < 1) return 0.0;
   const Segment cells = segmentOf(x, row, column, step);
-  if (n == 1) return std::fabs(cells[0]);
-  double scale = 0.0;
-  double squares = 1.0;
-  for (int k = 0; k < n; ++k) {
-    const double size = std::fabs(cells[k]);
-    if (size == 0.0) continue;
-    if (size > scale) {
-      const double ratio = scale / size;
-      squares = 1.0 + squares * (ratio * ratio);
-      scale = size;
-    } else {
-      const double ratio = size / scale;
-      squares += ratio * ratio;
-    }
-  }
-  return scale * scalar::sqr(squares);
+  return step < 1 ? 0.0 : scaledNorm(n, [&](int k) { return cells[k]; });
 }
 
 void M_SwapVectors(int n, matrix* x, int stepX, matrix* y, int stepY, int columnX, int columnY) {

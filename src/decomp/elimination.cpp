@@ -206,8 +206,7 @@ class ByColumns {
 class Copy {
  public:
   Copy(matrix* m, int n, int p) : m_(m), n_(n), p_(p), cells_(addressing::elementsInMemory<double>(n, p)) {
-    const block::Values source(m, n, p);
-    for (int j = 0; j < p; ++j) std::copy_n(source.column(j), n, cells().column(j));
+    block::copyTo(block::Values(m, n, p), n, p, cells_.data());
   }
 
   elements::Plain cells() { return {cells_.data(), n_}; }

@@ -22,7 +22,8 @@ KAV_API int M_Gauss(matrix* a, int n, int m, matrix* b);
 /// where s(j,k) is already divided. Of these s(i,j) what is below 1e-12 in absolute value becomes 0.0.
 /// Dividing by |d| lets the pivot row keep its sign when d < 0. A pivot of 0.0 is not tested for.
 ///
-/// @param s  packed, q(q+1)/2 cells: the lower triangle row after row, (i,j) at i(i-1)/2 + j
+/// @param s  packed, q(q+1)/2 cells: the lower triangle row after row, (i,j) at i(i-1)/2 + j. Throws
+///           std::bad_alloc beyond 65,535 variables.
 /// @param k  1-based; outside 1 .. q nothing happens
 /// @return 0
 KAV_API int M_Sweep(matrix* s, int q, int k);
@@ -42,8 +43,7 @@ KAV_API int M_InvGeneralized(const matrix* a, int n, matrix* g, double tolerance
 /// A single variable is inverted as a number, 0.0 to 1e12; more by matrix::inverse1 at 1e-12.
 ///
 /// @param excluded  n cells: 0.0 kept, above 0.0 excluded. A negative cell is neither, so that the last rows
-/// of
-///                  the smaller table are 0.0: pass none.
+///                  of the smaller table are 0.0: pass none.
 /// @return 0, also when all are excluded; -1 when singular, the inverse untouched
 KAV_API int cCleanConstraintsAndInvert(int n, const matrix* excluded, const matrix* a, matrix*& inverse);
 

@@ -32,14 +32,14 @@ int keptOf(matrix* values, int n, short drop, double minimum) {
   return kept;
 }
 
-/// newCells(first + i, k) = of(cells(i, k), factor k)
+/// newCells(first + i, k) = of(cells(i, k), factors[k]); 0.0 where the eigenvalue is.
 template <class Of>
-void rescale(const matrix* cells, int rows, int axes, const std::vector<double>& factors, matrix* newCells,
-             int first, Of of) {
-  if (newCells == nullptr || rows < 1 || axes < 1) return;
-  const block::Values from(cells, rows, axes);
+void rescale(const matrix* cells, int rows, const matrix* values, const std::vector<double>& factors,
+             matrix* newCells, int first, Of of) {
+  const auto axes = static_cast<int>(factors.size());
+  const block::Values from(cells, rows, axes), eigenvalues(values, axes);
   for (int k = 0; k < axes; ++k) {
-    for (int i = 0; i < rows; ++i) {
+    for (int i = 0; i < rows && eigenvalues[k] != 0.0; ++i) {
       newCells->setElement(first + i, k, of(from.column(k)[i], factors[static_cast<std::size_t>(k)]));
     }
   }
@@ -91,13 +91,11 @@ void BiplotTransData(const matrix* scores, const matrix* supplementary, const ma
   matrix::matCheck(newScores, active + others, axes, 0.0);
   matrix::matCheck(newLoadings, p, axes, 0.0);
   const block::Values cells(values, axes);
-  // 0.0 stands for an axis that is left out.
   std::vector<double> factors;
-  for (int k = 0; k < axes; ++k)
-    factors.push_back(cells[k] == 0.0 ? 0.0 : scalar::power(cells[k], exponent) * scale);
-  const auto times = [](double x, double g) { return g == 0.0 ? 0.0 : x * g; };
-  const auto divided = [](double x, double g) { return g == 0.0 ? 0.0 : x / g; };
-  rescale(scores, active, axes, factors, newScores, 0, times);
-  rescale(supplementary, others, axes, factors, newScores, active, times);
-  rescale(loadings, p, axes, factors, newLoadings, 0, divided);
+  for (int k = 0; k < axes; ++k) factors.push_back(scalar::power(cells[k], exponent) * scale);
+  const auto times = [](double x, double g) { return x * g; };
+  const auto divided = [](double x, double g) { return x / g; };
+  rescale(scores, active, values, factors, newScores, 0, times);
+  rescale(supplementary, others, values, factors, newScores, active, times);
+  rescale(loadings, p, values, factors, newLoadings, 0, divided);
 }

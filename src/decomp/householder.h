@@ -2,12 +2,15 @@
 // of the plain forms in singular_values.cpp and eigen.cpp, in their order. Internal.
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "core/elements.h"
 #include "decomp/bidiagonal.h"
 
 namespace householder {
+
+inline std::size_t sizeOf(int n) { return static_cast<std::size_t>(n); }
 
 /// X to two diagonals.
 class Bidiagonalization {
@@ -26,6 +29,10 @@ class Bidiagonalization {
   void reflectColumn(int l);
   void reflectRow(int l);
 
+  /// From column l + 1 on.
+  double* rowReflector(int l) { return rows_.data() + std::ptrdiff_t{job_.p} * l; }
+  const double* rowReflector(int l) const { return rows_.data() + std::ptrdiff_t{job_.p} * l; }
+
   bidiagonal::Job job_;
   elements::Plain x_;
   std::vector<double> work_;     ///< of the last row reflection
@@ -33,7 +40,7 @@ class Bidiagonalization {
   std::vector<double> times_;    ///< of the column reflector, for each column
   bool columnReflects_ = false;
   std::vector<double> nextWork_;
-  std::vector<std::vector<double>> rows_;  ///< reflectors of rows, from column l + 1 on
+  std::vector<double> rows_;  ///< reflectors of rows, job.p cells for each
 };
 
 /// A symmetric table to three diagonals, and the transformations put together.
@@ -48,12 +55,17 @@ class Tridiagonalization {
  private:
   void reduceRow(int i);
   void updateLeading(int size, const double* w, double* product);
-  void accumulate(const std::vector<double>& squares) const;
+  void accumulate(const std::vector<double>& squares);
+
+  /// Of row i, i cells.
+  double* reflector(int i) { return rows_.data() + std::ptrdiff_t{n_} * i; }
 
   elements::Plain a_;
   int n_;
-  std::vector<double> pendingU_, pendingE_;  ///< what the leading block still has to take off; empty: nothing
-  std::vector<std::vector<double>> rows_;    ///< reflectors, empty where there is none
+  std::vector<double> rows_;  ///< reflectors, n cells for each
+  const double* pending_ =
+      nullptr;  ///< reflector that the leading block still has to take off; null: nothing
+  std::vector<double> share_, product_;  ///< what of it, and the same in the making
 };
 
 }  // namespace householder

@@ -1,5 +1,6 @@
 // Inverses by singular values, and of the variables that are not excluded.
 
+#include <algorithm>
 #include <vector>
 
 #include "algebra/products.h"
@@ -32,8 +33,7 @@ int M_InvGeneralized(const matrix* a, int n, matrix* g, double tolerance, int& r
   rank = 0;
   if (n < 1) return 0;
   matrix x(n, n), w(n + 1, 1, 0.0), u(n, n, 0.0), v(n, n, 0.0);
-  const block::Values cells(a, n, n);
-  for (int j = 0; j < n; ++j) std::copy_n(cells.column(j), n, x.values + std::ptrdiff_t{n} * j);
+  block::copyTo(block::Values(a, n, n), n, n, x.values);
   int info;
   M_SVDecomp(&x, n, n, &w, &u, n, &v, n, 21, info);
   if (info < 0) return -1;

@@ -1,7 +1,6 @@
 // LU factors in place, and determinants from them.
 
 #include <algorithm>
-#include <new>
 #include <vector>
 
 #include "core/block.h"
@@ -74,8 +73,7 @@ short decompose(const Cells& a, int n, Exchanges& exchanges) {
 /// A square block in memory of its own.
 struct Copy {
   Copy(const matrix* a, int size) : n(size), cells(addressing::elementsInMemory<double>(n, n)) {
-    const block::Values source(a, n, n);
-    for (int j = 0; j < n; ++j) std::copy_n(source.column(j), n, column(j));
+    block::copyTo(block::Values(a, n, n), n, n, cells.data());
   }
 
   double* column(int j) { return cells.data() + std::ptrdiff_t{n} * j; }
@@ -157,7 +155,7 @@ double M_Determinant(const matrix* a, int n, short& status) {
     const elements::Plain cells(copy.cells.data(), n);
     status = lu::rowScales(cells, n, exchanges.scales.data()) ? decomposePanels(copy, exchanges) : kSingular;
     return status == 0 ? exchanges.parity * productOf(n, [&](int i) { return cells(i, i); }) : 0.0;
-  } catch (const std::bad_alloc&) {
+  } catch (...) {
     status = kSingular;
     return kOutOfMemory;
   }

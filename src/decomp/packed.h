@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <limits>
 #include <new>
 
@@ -14,13 +15,13 @@
 namespace packed {
 
 /// Where cell (i, j) is, 0-based, either triangle.
-inline std::ptrdiff_t position(std::ptrdiff_t i, std::ptrdiff_t j) {
-  const std::ptrdiff_t row = std::max(i, j), column = std::min(i, j);
+inline std::int64_t position(int i, int j) {
+  const std::int64_t row = std::max(i, j), column = std::min(i, j);
   return row * (row + 1) / 2 + column;
 }
 
-inline double& at(double* s, int i, int j) { return s[position(i, j)]; }
-inline double at(const double* s, int i, int j) { return s[position(i, j)]; }
+inline double& at(double* s, int i, int j) { return s[static_cast<std::ptrdiff_t>(position(i, j))]; }
+inline double at(const double* s, int i, int j) { return s[static_cast<std::ptrdiff_t>(position(i, j))]; }
 
 /// Cells of q variables. Throws std::bad_alloc where a container cannot have so many.
 inline int cellsOf(int q) {
@@ -28,6 +29,9 @@ inline int cellsOf(int q) {
   if (cells > std::numeric_limits<int>::max()) throw std::bad_alloc();
   return static_cast<int>(cells);
 }
+
+/// The smallest tolerance that variable k, 0-based, and those already swept have with it, see OLSCheckIfIn.
+double toleranceWith(const double* s, int p, int k, double tolerance);
 
 /// Sweeps q variables on variable k, 0-based, see M_Sweep.
 void sweep(double* s, int q, int k);

@@ -70,22 +70,21 @@ void accumulate(const std::vector<Reflector>& order, const std::vector<int>& sta
     const int used = std::min(panel.lanes(), columns - first);
     panel.clear();
     // What a lane holds before its column starts is of no use, and goes along.
-    std::size_t done = order.size();
-    std::vector<int> lanes;
-    for (int lane = 0; lane < used; ++lane) {
-      lanes.push_back(lane);
-      done = std::min(done, static_cast<std::size_t>(startsAfter[static_cast<std::size_t>(first + lane)]));
-    }
-    const auto startOf = [&](int lane) { return startsAfter[static_cast<std::size_t>(first + lane)]; };
-    std::stable_sort(lanes.begin(), lanes.end(), [&](int a, int b) { return startOf(a) < startOf(b); });
-    for (int lane : lanes) {
-      const auto from = static_cast<std::size_t>(startOf(lane));
+    const auto startOf = [&](int lane) {
+      return static_cast<std::size_t>(startsAfter[static_cast<std::size_t>(first + lane)]);
+    };
+    const bool lastFirst = startOf(used - 1) < startOf(0);
+    std::size_t done = std::min(startOf(0), startOf(used - 1));
+    for (int k = 0; k < used; ++k) {
+      const int lane = lastFirst ? used - 1 - k : k;
+      const std::size_t from = startOf(lane);
       panel.apply(order, done, from);
       done = from;
       const int column = first + lane;
       const double* cells = start[static_cast<std::size_t>(column)];
       for (int i = 0; i < rows; ++i) {
-        panel.at(i, lane) = i < column ? 0.0 : cells != nullptr ? cells[i - column] : i == column ? 1.0 : 0.0;
+        const double less = i < column || cells == nullptr ? 0.0 : -1.0 * cells[i - column];
+        panel.at(i, lane) = i == column ? 1.0 + less : less;
       }
     }
     panel.apply(order, done, order.size());

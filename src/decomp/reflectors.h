@@ -20,8 +20,8 @@ struct Reflector {
 /// The orthogonal table of reflections in the order given, each of whose rows contain those of the one
 /// before.
 ///
-/// Column j starts, where startsAfter[j] of the reflections are over, as the unit vector e(j), or as start[j]
-/// from row j on where that is not null; the remaining ones reflect it.
+/// Column j starts, where startsAfter[j] of the reflections are over, as the unit vector e(j), less start[j]
+/// from row j on where that is not null; the remaining ones reflect it. startsAfter rises or falls with j.
 ///
 /// @param target  rows x startsAfter.size()
 void accumulate(const std::vector<Reflector>& order, const std::vector<int>& startsAfter,

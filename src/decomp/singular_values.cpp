@@ -1,6 +1,8 @@
 #include "decomp/singular_values.h"
 
 #include <algorithm>
+#include <limits>
+#include <new>
 #include <vector>
 
 #include "core/block.h"
@@ -189,6 +191,10 @@ class ByBlocks {
 constexpr int kFew = 4;
 
 bool blocksPay(const Job& job, const matrix* x, const matrix* u, const matrix* v) {
+  const auto share = [](const matrix* a, const matrix* b) {
+    return a != nullptr && b != nullptr && a->values == b->values;
+  };
+  if (share(x, u) || share(x, v) || share(u, v)) return false;
   return std::min(job.n, job.p) >= kFew && block::isPlain(x, job.n, job.p) &&
          (!job.left || block::isPlain(u, job.n, job.leftColumns)) &&
          (!job.right || block::isPlain(v, job.p, job.p));
@@ -210,13 +216,11 @@ int decompose(Decomposition& decomposition, const Job& job, matrix* s) {
 void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, int, matrix* v, int, int job, int& info) {
   info = 0;
   if (n < 1 || p < 1) return;
+  if (std::max(n, p) == std::numeric_limits<int>::max()) throw std::bad_alloc();
   const Job work(n, p, job);
   if (blocksPay(work, x, u, v)) {
-    std::vector<double> before;
-    for (int j = 0; j < p; ++j) {
-      const double* column = plainCells(x).column(j);
-      before.insert(before.end(), column, column + n);
-    }
+    std::vector<double> before(addressing::elementsInMemory<double>(n, p));
+    block::copyTo(block::Values(x, n, p), n, p, before.data());
     ByBlocks decomposition(work, plainCells(x), plainCells(u), plainCells(v));
     info = decompose(decomposition, work, s);
     for (matrix* m : {x, u, v}) {

@@ -17,8 +17,7 @@
 /// @param ldu  not used: containers know their rows; neither is ldv
 /// @param v    out, p x p
 /// @param job  tens digit: 0 no left vectors, 1 all n, 2 or more the first min(n, p); units digit: non-zero
-/// for
-///             right vectors
+///             for right vectors
 /// @param info 0; m when singular value m was not found in 30 steps: those behind it are right
 KAV_API void M_SVDecomp(matrix* x, int n, int p, matrix* s, matrix* u, int ldu, matrix* v, int ldv, int job,
                         int& info);

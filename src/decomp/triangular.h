@@ -21,7 +21,7 @@
 KAV_API int M_CholDecomp(const matrix* a, int n, matrix*& l);
 
 /// The same for the rows and columns that are kept, in their places in L; the others are 0.0.
-/// @return 0, or -1 with L all 0.0
+/// @return 0, or -1 with L untouched
 KAV_API int M_CholDecompCleaned(const matrix* a, int n, const matrix* excluded, matrix*& l);
 
 /// LU factors of A with rows exchanged, in its place: L below a diagonal of ones that is not stored, U from
@@ -42,9 +42,8 @@ KAV_API void M_LUDecomp(matrix*& a, int n, matrix*& index, double& parity, short
 KAV_API double M_DeterminantTriang(const matrix* t, int n, short& status);
 
 /// The determinant from the LU factors of a copy.
-/// @param status  of M_LUDecomp, for which the result is 0.0 unless it is 0; -1 out of memory, for which it
-/// is
-///                1.79769313486231e+308
+/// @param status  of M_LUDecomp: for any but 0 the result is 0.0. Out of memory -1 too, and the result is
+///                1.79769313486231e+308.
 KAV_API double M_Determinant(const matrix* a, int n, short& status);
 
 /// The determinant of the rows and columns that are kept.

@@ -9,6 +9,9 @@ namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
+/// Exponents whose exponentials are far from overflow.
+constexpr double kMostExponent = 700.0;
+
 /// ln 2 in two parts: the high one has 32 bits, so its products with exponents are exact.
 constexpr double kLn2High = 0x1.62e42fee00000p-1;
 constexpr double kLn2Low = 0x1.a39ef35793c76p-33;
@@ -118,10 +121,23 @@ double Log10(double x) {
   return sum + (lost + rest);
 }
 
+// Where it can be, the exponential of y ln x with the logarithm in two parts, and of what rounding takes off
+// the product the first term.
 double power(double x, double y) {
   if (y == 0.0) return 1.0;
   if (y == 1.0) return x;
-  return y == 0.5 ? sqr(x) : exponential(y * naturalLog(x));
+  if (y == 0.5) return sqr(x);
+  if (!(x > 0.0) || x == kInfinity) return exponential(y * naturalLog(x));
+  const Logarithm log = logarithmOf(x, kLn2Low);
+  const double part = log.f - log.less;
+  const double whole = log.k * kLn2High;
+  const double high = whole + part;
+  const double lost = std::fabs(whole) > std::fabs(part) ? (whole - high) + part : (part - high) + whole;
+  const double low = lost + ((log.f - part) - log.less);
+  const double product = y * high;
+  const double result = exponential(product);
+  if (!(std::fabs(product) < kMostExponent)) return result;
+  return result + result * (productError(y, high) + y * low);
 }
 
 // x = k ln 2 + r; exp(r) by its series, the remainder of r added last.

@@ -32,7 +32,7 @@ double exponential(double x);
 /// NaN below.
 double Log10(double x);
 
-/// x to the power y, from its logarithm but for y = 0, 0.5 and 1; NaN below 0.0.
+/// x to the power y, to less than two units in the last place; below 0.0 NaN, unless y is 0 or 1.
 double power(double x, double y);
 
 /// |a| with the sign of b.

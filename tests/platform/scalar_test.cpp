@@ -1,6 +1,7 @@
 #include "platform/scalar.h"
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 #include "support/bits.h"
@@ -35,11 +36,21 @@ TEST(Scalar, LogarithmsAndExponentialsAreWithinOneUlp) {
   std::vector<double> exponents = {-745.13321910194122, -708.39641853226408, 709.78271289338397, -0.0};
   for (const double x : positives()) {
     ASSERT_LT(ulps(scalar::naturalLog(x), std::log(static_cast<long double>(x))), 1.0) << bits::text(x);
+    ASSERT_LT(ulps(scalar::Log10(x), std::log10(static_cast<long double>(x))), 1.0) << bits::text(x);
     exponents.push_back(random.uniform(-745.2, random.below(2) == 0 ? -708.0 : 709.78));
     exponents.push_back(std::ldexp(random.uniform(-1.0, 1.0), -random.below(60)));
   }
   for (const double x : exponents) {
     ASSERT_LT(ulps(scalar::exponential(x), std::exp(static_cast<long double>(x))), 1.0) << bits::text(x);
+  }
+}
+
+TEST(Scalar, PowersAreExponentialsOfLogarithms) {
+  Random random(5);
+  for (int k = 0; k < 20000; ++k) {
+    const double x = std::exp2(random.uniform(-60.0, 60.0)), y = random.uniform(-3.0, 3.0);
+    const long double exponent = y * std::log(static_cast<long double>(x));
+    ASSERT_LT(ulps(scalar::power(x, y), std::exp(exponent)), 2.0L) << x << ", " << y;
   }
 }
 
@@ -67,6 +78,14 @@ TEST(Scalar, EndsAndWholeNumbers) {
   EXPECT_TRUE(bits::equal(
       {threeHalvesPower(0.0), threeHalvesPower(kInf), threeHalvesPower(-2.385), threeHalvesPower(NAN)},
       {0.0, kInf, NAN, NAN}));
+  EXPECT_TRUE(bits::equal({Log10(1.0), Log10(0.0), Log10(-0.0), Log10(kInf), Log10(-2.385), Log10(NAN)},
+                          {0.0, -kInf, -kInf, kInf, NAN, NAN}));
+  const double values[] = {power(NAN, 0.0), power(-2.0, 0.0), power(-2.5, 1.0), power(2.0, 0.5),
+                           power(0.0, -2.0)};
+  EXPECT_TRUE(bits::equal(std::vector<double>(values, values + 5), {1.0, 1.0, -2.5, std::sqrt(2.0), kInf}));
+  EXPECT_TRUE(bits::equal({power(0.0, 2.0), power(-2.0, 2.0), power(-2.0, 0.5)}, {0.0, NAN, NAN}));
+  for (int k = -307; k <= 308; ++k) EXPECT_EQ(Log10(std::stod("1e" + std::to_string(k))), k);
+  EXPECT_TRUE(bits::equal({FSign(-2.5, 0.0), FSign(2.5, -0.0), FSign(-2.5, -1.0)}, {2.5, -2.5, -2.5}));
   for (const double x : {0.0, -7.0, 0x1p53 - 1.0, -0x1p53 + 1.0}) EXPECT_TRUE(IsLong(x)) << x;
   for (const double x : {2.385, 0x1p53, -0x1p53, kInf, 5e-324}) EXPECT_FALSE(IsLong(x)) << x;
 }

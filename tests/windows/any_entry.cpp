@@ -42,7 +42,7 @@ std::string plain(std::wstring_view name) { return std::string(name.begin(), nam
 
 AnyArguments::AnyArguments(const macro::Procedure& procedure, Extent extent)
     : rows_(extent == Extent::Small ? 3 : 120),
-      cells_(extent == Extent::Small ? 64 : 512),
+      cells_(extent == Extent::Small ? 64 : 1024),
       missing_(extent == Extent::Large) {
   for (const macro::Parameter& parameter : procedure.parameters) add(parameter);
 }

@@ -451,6 +451,15 @@ void VB_M_MeanStDevVarOneInMat(
     double* iMat, int n, int IDCol, double* Mean, double* StDev, double* Var, VARIANT_BOOL* iMissing,
     double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
 
+/// Copies the table without column iCol (1-based) into oMat (n x (p - 1)); markers stay as they are.
+void VB_M_RemoveCol(double* iMat, int n, int p, int iCol, double* oMat);
+
+/// Copies the table without row iRow (1-based) into oMat ((n - 1) x p); markers stay as they are.
+void VB_M_RemoveRow(double* iMat, int n, int p, int iRow, double* oMat);
+
+/// Moves row iRow to row iNewPos (both 1-based) in place; the rows between shift by one.
+void VB_M_MoveRow(double* iMat, int n, int p, int iRow, int iNewPos);
+
 /// Smallest and largest value of each column; leaves out flagged rows, or instead missing cells when
 /// MissingPerCol is -1. The marker when no cell is used.
 void VB_M_MinMax(
@@ -564,6 +573,25 @@ void VB_M_DuplicateDbl(double* iAMat, int n, int p, double* oMat);
 /// Copies the string table into oMat (n x p) as new strings; what the slots of oMat held is not freed.
 void VB_M_DuplicateStr(BSTR* iAMat, int n, int p, BSTR* oMat);
 
+/// Copies the leading block of the n x p table into oMat (n2 x p2); further cells become 0.0, markers
+/// stay as they are.
+void VB_M_CopyResize(double* iMat, int n, int p, double* oMat, int n2, int p2);
+
+/// Copies rows nStart to nEnd (1-based, inclusive, cut to the table) into oMat, all p columns; markers
+/// stay as they are.
+void VB_M_ExtractMatToMatDbl(double* iMat, int n, int p, int nStart, int nEnd, double* oMat);
+
+/// Copies rows nStart to nEnd (1-based, inclusive, cut to the table) of the string table into oMat as new
+/// strings, all p columns.
+void VB_M_ExtractMatToMatStr(BSTR* iMat, int n, int p, int nStart, int nEnd, BSTR* oMat);
+
+/// Copies the leading block of the n x p string table into oMat (n2 x p2) as new strings; further cells
+/// become empty.
+void VB_M_CopyResizeStr(BSTR* iMat, int n, int p, BSTR* oMat, int n2, int p2);
+
+/// Returns the 1-based position of the first constant column, or 0 when there is none.
+int VB_M_IsColConstant(double* iAMat, int n, int p);
+
 /// Standardises each column into oMat by its weighted mean and deviation; n x p flags. Flagged or missing
 /// cells become the marker, a constant column 0.0.
 void VB_M_StandardizeByVect(
@@ -584,6 +612,10 @@ void VB_M_RescaleByVect(
 void VB_M_RescaleByVect2(
     double* iMat, int n, int p, double iLowerBound, double iUpperBound, VARIANT_BOOL* iMissing);
 
+/// Writes the 1-based position of each label among its column's categories into oMat (n x p); an empty or
+/// unknown label gives the marker.
+void VB_M_ReplaceCatByCodes(BSTR* iMat, int n, int p, int* NbCat, BSTR* Cat, double* oMat);
+
 /// Writes all products of a column of iMat1 with a column of iMat2, row by row, into oMat (n x p1.p2);
 /// the column of iMat2 varies fastest.
 void VB_M_ProductHorizAB(double* iMat1, int n, int p1, double* iMat2, int p2, double* oMat, int p);
@@ -591,6 +623,11 @@ void VB_M_ProductHorizAB(double* iMat1, int n, int p1, double* iMat2, int p2, do
 /// Replaces ioMat1 by all products of its columns with those of iMat2, row by row (n x iop1.p2); iop1
 /// becomes iop1.p2. The array must be large enough.
 void VB_M_ProductHorizAB2(double* ioMat1, int n, int* iop1, double* iMat2, int p2);
+
+/// Writes the position of each label among its column's categories, counted from iCodeStart, into oMat;
+/// an empty or unknown label or a flagged row gives the marker.
+void VB_M_ReplaceStrByCodes(
+    BSTR* iMat, int n, int p, int* NbCat, BSTR* Cat, VARIANT_BOOL* iMissing, int iCodeStart, double* oMat);
 
 /// Makes the n x n table symmetric in place: iType 0 takes the mean of both triangles, 1 copies upper to
 /// lower, 2 lower to upper.
@@ -672,6 +709,22 @@ void VB_M_SquaredRows(double* iMat, int n, int p, double* oVect);
 /// Sum of squares of each column, into oVect (p); a missing cell shows in its sum.
 void VB_M_SquaredColumns(double* iMat, int n, int p, double* oVect);
 
+/// Copies rows nStart to nEnd, columns pStart to pEnd (1-based, inclusive, cut to the table) into oMat;
+/// markers stay as they are.
+void VB_M_CopyBlock(double* iMat, int n, int p, int nStart, int nEnd, int pStart, int pEnd, double* oMat);
+
+/// Removes columns pStart to pEnd (1-based, inclusive) in place; the smaller table is packed at the start
+/// of the array.
+void VB_M_RemoveCols2(double* ioMat, int n, int p, int pStart, int pEnd);
+
+/// Removes rows nStart to nEnd (1-based, inclusive) in place; the smaller table is packed at the start of
+/// the array.
+void VB_M_RemoveRows2(double* ioMat, int n, int p, int nStart, int nEnd);
+
+/// Copies columns pStart to pEnd (1-based, inclusive, cut to the table) into oMat, all n rows; markers
+/// stay as they are.
+void VB_M_ExtractMatToMatByColDbl(double* iMat, int n, int p, int pStart, int pEnd, double* oMat);
+
 /// Returns the determinant of the p x p table without the rows and columns whose iConstraints is not 0.
 /// Problem is as in VB_M_Determinant.
 double VB_M_DeterminantCleaned(double* iMat, int p, int* iConstraints, VARIANT_BOOL* Problem);
@@ -692,8 +745,16 @@ int VB_M_CholDecompCleaned(double* iMat, int p, int* iConstraints, double* oMat)
 /// the diagonal.
 void VB_M_CorrMatFromCovMat(double* iCovMat, int p, double* oCorrMat);
 
+/// Pastes the n x p table into ioMat (n2 x p2) from row nStart, column pStart (1-based); what overhangs
+/// is cut, the other cells stay.
+void VB_M_PasteBlock(double* iMat, int n, int p, double* ioMat, int n2, int p2, int nStart, int pStart);
+
 /// Returns x'.B.y, x and y having n cells and B being n x n; a missing operand shows in the result.
 double VB_M_ProductTrV1BV2(double* iVect1, int n, double* iBMat, double* iVect2);
+
+/// Copies the n x p table into the leading block of oMat (nOut x pOut); the other cells of oMat keep
+/// their content.
+void VB_M_CopyToBigger(double* iMat, int n, int p, double* oMat, int nOut, int pOut);
 
 /// Interaction of two coded blocks, into ioMat1; iop1 becomes iop1.p2. iConstraintType 3 divides by
 /// weight sums; oInterFreqCat receives the positive ones.
@@ -732,6 +793,10 @@ void VB_M_ProductTrADiagVA(double* iMat, int n, int p, double* iDiagVect, double
 /// Writes A.diag(v).A' (n x n) into oMat, iDiagVect having p cells; a missing operand shows in the
 /// result.
 void VB_M_ProductADiagVTrA(double* iMat, int n, int p, double* iDiagVect, double* oMat);
+
+/// Copies the table without the nOut rows listed in iList (1-based, any order, others ignored), packed,
+/// into oMat; returns the number of rows left.
+int VB_M_RemoveRowsInList(double* iMat, int n, int p, int* iList, int nOut, double* oMat);
 
 /// Sorts cells iLowerBound to iUpperBound (1-based, inclusive) of ioVector in place, ascending, or
 /// descending when iSortdown is not 0; returns 0.
@@ -804,6 +869,106 @@ void VB_SortApply(double* iMat, int n, int p, double* iSortVect, double* oMat);
 /// a row number outside 1 to n gives empty strings.
 void VB_SortApplyStr(BSTR* iMat, int n, int p, double* iSortVect, BSTR* oMat);
 
+/// Indicator columns of the categories into oMat (n x pMaxCat). ConstraintType 0 keeps all, 1 drops the
+/// first, 2 the last, 3 sums to zero; LeaveFirstCol keeps the first.
+void VB_BuildDisjunctiveTable(
+    BSTR* iMat, int n, int p, int NbCatTotal, int* NbCat, BSTR* Cat, double* FreqCat, int pMaxCat,
+    double* oMat, int ConstraintType, int LeaveFirstCol);
+
+/// Puts two vectors side by side into oMat (2 columns, as many rows as the longer); the shorter is filled
+/// with 0.0, markers stay as they are.
+void VB_HMergeVectors(double* iVect1, int NbRowVect1, double* iVect2, int NbRowVect2, double* oMat);
+
+/// Puts a table and, at its right, a vector into oMat (NbColMat2 + 1 columns); the shorter is filled with
+/// 0.0, markers stay as they are.
+void VB_HMergeTableVect(
+    double* iMat2, int NbRowMat2, int NbColMat2, double* iVect, int NbRowVect, double* oMat);
+
+/// Adds a vector as the last column of iMat2, in place; the array must hold the merged table. The shorter
+/// is filled with 0.0, markers stay as they are.
+void VB_HMergeTableVect2(double* iMat2, int NbRowMat2, int NbColMat2, double* iVect, int NbRowVect);
+
+/// Puts a vector and, at its right, a table into oMat (NbColMat2 + 1 columns); the shorter is filled with
+/// 0.0, markers stay as they are.
+void VB_HMergeVectTable(
+    double* iVect, int NbRowVect, double* iMat2, int NbRowMat2, int NbColMat2, double* oMat);
+
+/// Puts a vector and column iCol (1-based) of iMat2 side by side into oMat (2 columns); the shorter is
+/// filled with 0.0, markers stay as they are.
+void VB_HMergeVectColDbl(double* iVect, int NbRowVect, double* iMat2, int NbRowMat2, int iCol, double* oMat);
+
+/// Writes iVector1 followed by iVector2 into oVector (p1 + p2 cells); markers stay as they are.
+void VB_VMergeVectorsDbl(double* iVector1, int p1, double* iVector2, int p2, double* oVector);
+
+/// Appends iVector2 to iVector1, in place; the array must hold p1 + p2 cells. Markers stay as they are.
+void VB_VMergeVectorsDbl2(double* iVector1, int p1, double* iVector2, int p2);
+
+/// Writes iVector1 followed by iVector2 into oVector (p1 + p2 cells) as new strings; what the slots of
+/// oVector held is not freed.
+void VB_VMergeVectorsStr(BSTR* iVector1, int p1, BSTR* iVector2, int p2, BSTR* oVector);
+
+/// Appends iVector2 to iVector1, in place, as new strings; the array must hold p1 + p2 cells.
+void VB_VMergeVectorsStr2(BSTR* iVector1, int p1, BSTR* iVector2, int p2);
+
+/// Puts two tables side by side into oMat (NbColMat1 + NbColMat2 columns); rows missing from the shorter
+/// become 0.0, markers stay as they are.
+void VB_HMergeTablesDbl(
+    double* iMat1, int NbRowMat1, int NbColMat1, double* iMat2, int NbRowMat2, int NbColMat2, double* oMat);
+
+/// Puts iMat2 at the right of iMat1, in place; iMat1 must hold the merged table. Rows missing from the
+/// shorter become 0.0, markers stay as they are.
+void VB_HMergeTablesDbl2(
+    double* iMat1, int NbRowMat1, int NbColMat1, double* iMat2, int NbRowMat2, int NbColMat2);
+
+/// Puts two flag tables side by side into oMat (NbColMat1 + NbColMat2 columns); rows missing from the
+/// shorter become 0.
+void VB_HMergeTablesBool(
+    VARIANT_BOOL* iMat1, int NbRowMat1, int NbColMat1, VARIANT_BOOL* iMat2, int NbRowMat2, int NbColMat2,
+    VARIANT_BOOL* oMat);
+
+/// Puts flag table iMat2 at the right of iMat1, in place; iMat1 must hold the merged table. Rows missing
+/// from the shorter become 0.
+void VB_HMergeTablesBool2(
+    VARIANT_BOOL* iMat1, int NbRowMat1, int NbColMat1, VARIANT_BOOL* iMat2, int NbRowMat2, int NbColMat2);
+
+/// Puts two string tables side by side into oMat (NbColMat1 + NbColMat2 columns) as new strings; rows
+/// missing from the shorter become empty.
+void VB_HMergeTablesStr(
+    BSTR* iMat1, int NbRowMat1, int NbColMat1, BSTR* iMat2, int NbRowMat2, int NbColMat2, BSTR* oMat);
+
+/// Puts string table iMat2 at the right of iMat1, in place, as new strings; iMat1 must hold the merged
+/// table. Rows missing from the shorter become empty.
+void VB_HMergeTablesStr2(
+    BSTR* iMat1, int NbRowMat1, int NbColMat1, BSTR* iMat2, int NbRowMat2, int NbColMat2);
+
+/// Puts iMat2 below iMat1 into oMat (NbRowMat1 + NbRowMat2 rows); columns missing from the narrower
+/// become 0.0, markers stay as they are.
+void VB_VMergeTablesDbl(
+    double* iMat1, int NbRowMat1, int NbColMat1, double* iMat2, int NbRowMat2, int NbColMat2, double* oMat);
+
+/// Copies column col of iMat (n rows) into column ColID of ioMat, both 1-based; the other cells stay.
+/// iRedimMat has no effect.
+void VB_CopyMatrixColToMatrixCol(
+    double* iMat, int n, int col, double* ioMat, int ColID, VARIANT_BOOL iRedimMat);
+
+/// Copies column ColID (1-based) of iMat into oVector (n cells); markers stay as they are.
+void VB_CopyMatrixColToVector(double* iMat, int n, int ColID, double* oVector);
+
+/// Copies row Line of iMat (n x p) into row RowID of ioMat (n2 rows), both 1-based; the other cells stay.
+/// iRedimMat has no effect.
+void VB_CopyMatrixRowToMatrixRow(
+    double* iMat, int n, int p, int Line, double* ioMat, int n2, int RowID, VARIANT_BOOL iRedimMat);
+
+/// Copies column iCol (1-based) of the string table into oVectMat (n cells) as new strings; what its
+/// slots held is not freed.
+void VB_CopyMatrixColToOneColMatStr(BSTR* iMat, int n, int iCol, BSTR* oVectMat);
+
+/// Fills iVector (n cells) with 1.0 from iStart to iEnd (1-based, inclusive) and 0.0 elsewhere.
+void VB_GenerateIndicator(double* iVector, int n, int iStart, int iEnd);
+
+/// Appends the flags iVect2 to ioVect1, in place; the array must hold n1 + n2 cells.
+void VB_VMergeVectorsBool2(VARIANT_BOOL* ioVect1, int n1, VARIANT_BOOL* iVect2, int n2);
+
 /// Sets the n flags of oVector to 0; returns 0.
 int VB_InitVectorToFalse(VARIANT_BOOL* oVector, int n);
 
@@ -833,6 +998,18 @@ void VB_FilterEigen(
     double* iEigenValues, int p, VARIANT_BOOL iDoFilter, double iFilter, double iMinPerc, int iMaxFact,
     double iMaxVal, int* oNbEigen, int* oDispEigen, double* Percent);
 
+/// Weighted least squares: slopes, then the intercept, into oCoeffs, n fitted values into oPredY;
+/// collinear columns get 0.0. Returns 0, or -1 when n, p or degree is below 1.
+int RunOLSBasic(
+    int n, int p, double* X, double* Y, double* w, int iPolyDegree, VARIANT_BOOL iInteract2,
+    VARIANT_BOOL iFixedIntercept, double iTolerance, double* oCoeffs, double* oPredY);
+
+/// Least squares as RunOLSBasic, with standard errors in oStDevCoeffs, laid out as oCoeffs; columns left
+/// out get 0.0. Returns 0, or -1 when n, p or degree is below 1.
+int RunOLSBasic2(
+    int n, int p, double* X, double* Y, double* w, int iPolyDegree, VARIANT_BOOL iInteract2,
+    VARIANT_BOOL iFixedIntercept, double iTolerance, double* oCoeffs, double* oStDevCoeffs, double* oPredY);
+
 /// Collinearity screen: oNotToleratedVars is 0 usable, 50000 without variance, 60000 collinear;
 /// oTolerances and oVIF get tolerances and inverses (marker for 0.0).
 void VB_CheckTolerance(
@@ -849,6 +1026,12 @@ void ComputeCosines(double* iMat, int n, int p, double* oCosines);
 void VB_BiplotTransData(
     double* iScores, double* iScoresSupp, double* iLoadings, int n, int nSupp, int p, int iNbEigen,
     double* iEigenValues, double iScale, double iExpo, double* oNewScores, double* oNewLoadings);
+
+/// One step of ioParamVect, capped at Maxchange when Checkchange is -1. Returns 1 converged, 0 not yet,
+/// -1 iDeriv2 not invertible; errors of excluded cells are not written.
+int NewtonRaphson(
+    double* ioParamVect, int p, int* iConstraints, double* iDeriv1, double* iDeriv2, double iConvergence,
+    double* oStdErrVect, double* InvDeriv2, VARIANT_BOOL Checkchange, double Maxchange);
 
 /// Inverse of the p x p table over the variables with iConstraints 0, zeros elsewhere, into oInvDeriv;
 /// returns 0, or -1 when singular. A single null cell gives 1E12.

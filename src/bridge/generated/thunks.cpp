@@ -519,6 +519,18 @@ KAV_ENTRY void KAV_CALL VB_M_MeanStDevVarOneInMat(
   return guarded<void>([&] { return entries::VB_M_MeanStDevVarOneInMat(iMat, n, IDCol, Mean, StDev, Var, iMissing, w, Unbiased, BiasIsOne); });
 }
 
+KAV_ENTRY void KAV_CALL VB_M_RemoveCol(double* iMat, int n, int p, int iCol, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_RemoveCol(iMat, n, p, iCol, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_RemoveRow(double* iMat, int n, int p, int iRow, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_RemoveRow(iMat, n, p, iRow, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_MoveRow(double* iMat, int n, int p, int iRow, int iNewPos) noexcept {
+  return guarded<void>([&] { return entries::VB_M_MoveRow(iMat, n, p, iRow, iNewPos); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_MinMax(
     double* iMat, int n, int p, double* VMin, double* VMax, VARIANT_BOOL* iMissing,
     VARIANT_BOOL MissingPerCol) noexcept {
@@ -671,6 +683,28 @@ KAV_ENTRY void KAV_CALL VB_M_DuplicateStr(BSTR* iAMat, int n, int p, BSTR* oMat)
   return guarded<void>([&] { return entries::VB_M_DuplicateStr(iAMat, n, p, oMat); });
 }
 
+KAV_ENTRY void KAV_CALL VB_M_CopyResize(double* iMat, int n, int p, double* oMat, int n2, int p2) noexcept {
+  return guarded<void>([&] { return entries::VB_M_CopyResize(iMat, n, p, oMat, n2, p2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ExtractMatToMatDbl(
+    double* iMat, int n, int p, int nStart, int nEnd, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ExtractMatToMatDbl(iMat, n, p, nStart, nEnd, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ExtractMatToMatStr(
+    BSTR* iMat, int n, int p, int nStart, int nEnd, BSTR* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ExtractMatToMatStr(iMat, n, p, nStart, nEnd, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_CopyResizeStr(BSTR* iMat, int n, int p, BSTR* oMat, int n2, int p2) noexcept {
+  return guarded<void>([&] { return entries::VB_M_CopyResizeStr(iMat, n, p, oMat, n2, p2); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_IsColConstant(double* iAMat, int n, int p) noexcept {
+  return guarded<int>([&] { return entries::VB_M_IsColConstant(iAMat, n, p); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_StandardizeByVect(
     double* iMat, int n, int p, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased, double* oMat) noexcept {
   return guarded<void>([&] { return entries::VB_M_StandardizeByVect(iMat, n, p, iMissing, w, Unbiased, oMat); });
@@ -691,6 +725,11 @@ KAV_ENTRY void KAV_CALL VB_M_RescaleByVect2(
   return guarded<void>([&] { return entries::VB_M_RescaleByVect2(iMat, n, p, iLowerBound, iUpperBound, iMissing); });
 }
 
+KAV_ENTRY void KAV_CALL VB_M_ReplaceCatByCodes(
+    BSTR* iMat, int n, int p, int* NbCat, BSTR* Cat, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ReplaceCatByCodes(iMat, n, p, NbCat, Cat, oMat); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_ProductHorizAB(
     double* iMat1, int n, int p1, double* iMat2, int p2, double* oMat, int p) noexcept {
   return guarded<void>([&] { return entries::VB_M_ProductHorizAB(iMat1, n, p1, iMat2, p2, oMat, p); });
@@ -699,6 +738,11 @@ KAV_ENTRY void KAV_CALL VB_M_ProductHorizAB(
 KAV_ENTRY void KAV_CALL VB_M_ProductHorizAB2(
     double* ioMat1, int n, int* iop1, double* iMat2, int p2) noexcept {
   return guarded<void>([&] { return entries::VB_M_ProductHorizAB2(ioMat1, n, iop1, iMat2, p2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ReplaceStrByCodes(
+    BSTR* iMat, int n, int p, int* NbCat, BSTR* Cat, VARIANT_BOOL* iMissing, int iCodeStart, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ReplaceStrByCodes(iMat, n, p, NbCat, Cat, iMissing, iCodeStart, oMat); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_Symmetrize(double* t, int n, int iType) noexcept {
@@ -794,6 +838,24 @@ KAV_ENTRY void KAV_CALL VB_M_SquaredColumns(double* iMat, int n, int p, double* 
   return guarded<void>([&] { return entries::VB_M_SquaredColumns(iMat, n, p, oVect); });
 }
 
+KAV_ENTRY void KAV_CALL VB_M_CopyBlock(
+    double* iMat, int n, int p, int nStart, int nEnd, int pStart, int pEnd, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_CopyBlock(iMat, n, p, nStart, nEnd, pStart, pEnd, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_RemoveCols2(double* ioMat, int n, int p, int pStart, int pEnd) noexcept {
+  return guarded<void>([&] { return entries::VB_M_RemoveCols2(ioMat, n, p, pStart, pEnd); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_RemoveRows2(double* ioMat, int n, int p, int nStart, int nEnd) noexcept {
+  return guarded<void>([&] { return entries::VB_M_RemoveRows2(ioMat, n, p, nStart, nEnd); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ExtractMatToMatByColDbl(
+    double* iMat, int n, int p, int pStart, int pEnd, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ExtractMatToMatByColDbl(iMat, n, p, pStart, pEnd, oMat); });
+}
+
 KAV_ENTRY double KAV_CALL VB_M_DeterminantCleaned(
     double* iMat, int p, int* iConstraints, VARIANT_BOOL* Problem) noexcept {
   return guarded<double>([&] { return entries::VB_M_DeterminantCleaned(iMat, p, iConstraints, Problem); });
@@ -815,8 +877,18 @@ KAV_ENTRY void KAV_CALL VB_M_CorrMatFromCovMat(double* iCovMat, int p, double* o
   return guarded<void>([&] { return entries::VB_M_CorrMatFromCovMat(iCovMat, p, oCorrMat); });
 }
 
+KAV_ENTRY void KAV_CALL VB_M_PasteBlock(
+    double* iMat, int n, int p, double* ioMat, int n2, int p2, int nStart, int pStart) noexcept {
+  return guarded<void>([&] { return entries::VB_M_PasteBlock(iMat, n, p, ioMat, n2, p2, nStart, pStart); });
+}
+
 KAV_ENTRY double KAV_CALL VB_M_ProductTrV1BV2(double* iVect1, int n, double* iBMat, double* iVect2) noexcept {
   return guarded<double>([&] { return entries::VB_M_ProductTrV1BV2(iVect1, n, iBMat, iVect2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_CopyToBigger(
+    double* iMat, int n, int p, double* oMat, int nOut, int pOut) noexcept {
+  return guarded<void>([&] { return entries::VB_M_CopyToBigger(iMat, n, p, oMat, nOut, pOut); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_ProductDesignAB2(
@@ -861,6 +933,11 @@ KAV_ENTRY void KAV_CALL VB_M_ProductTrADiagVA(
 KAV_ENTRY void KAV_CALL VB_M_ProductADiagVTrA(
     double* iMat, int n, int p, double* iDiagVect, double* oMat) noexcept {
   return guarded<void>([&] { return entries::VB_M_ProductADiagVTrA(iMat, n, p, iDiagVect, oMat); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_RemoveRowsInList(
+    double* iMat, int n, int p, int* iList, int nOut, double* oMat) noexcept {
+  return guarded<int>([&] { return entries::VB_M_RemoveRowsInList(iMat, n, p, iList, nOut, oMat); });
 }
 
 KAV_ENTRY int KAV_CALL VB_SortQVectorLng(
@@ -938,6 +1015,118 @@ KAV_ENTRY void KAV_CALL VB_SortApplyStr(BSTR* iMat, int n, int p, double* iSortV
   return guarded<void>([&] { return entries::VB_SortApplyStr(iMat, n, p, iSortVect, oMat); });
 }
 
+KAV_ENTRY void KAV_CALL VB_BuildDisjunctiveTable(
+    BSTR* iMat, int n, int p, int NbCatTotal, int* NbCat, BSTR* Cat, double* FreqCat, int pMaxCat,
+    double* oMat, int ConstraintType, int LeaveFirstCol) noexcept {
+  return guarded<void>([&] { return entries::VB_BuildDisjunctiveTable(iMat, n, p, NbCatTotal, NbCat, Cat, FreqCat, pMaxCat, oMat, ConstraintType, LeaveFirstCol); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeVectors(
+    double* iVect1, int NbRowVect1, double* iVect2, int NbRowVect2, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeVectors(iVect1, NbRowVect1, iVect2, NbRowVect2, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeTableVect(
+    double* iMat2, int NbRowMat2, int NbColMat2, double* iVect, int NbRowVect, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeTableVect(iMat2, NbRowMat2, NbColMat2, iVect, NbRowVect, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeTableVect2(
+    double* iMat2, int NbRowMat2, int NbColMat2, double* iVect, int NbRowVect) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeTableVect2(iMat2, NbRowMat2, NbColMat2, iVect, NbRowVect); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeVectTable(
+    double* iVect, int NbRowVect, double* iMat2, int NbRowMat2, int NbColMat2, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeVectTable(iVect, NbRowVect, iMat2, NbRowMat2, NbColMat2, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeVectColDbl(
+    double* iVect, int NbRowVect, double* iMat2, int NbRowMat2, int iCol, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeVectColDbl(iVect, NbRowVect, iMat2, NbRowMat2, iCol, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_VMergeVectorsDbl(
+    double* iVector1, int p1, double* iVector2, int p2, double* oVector) noexcept {
+  return guarded<void>([&] { return entries::VB_VMergeVectorsDbl(iVector1, p1, iVector2, p2, oVector); });
+}
+
+KAV_ENTRY void KAV_CALL VB_VMergeVectorsDbl2(double* iVector1, int p1, double* iVector2, int p2) noexcept {
+  return guarded<void>([&] { return entries::VB_VMergeVectorsDbl2(iVector1, p1, iVector2, p2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_VMergeVectorsStr(
+    BSTR* iVector1, int p1, BSTR* iVector2, int p2, BSTR* oVector) noexcept {
+  return guarded<void>([&] { return entries::VB_VMergeVectorsStr(iVector1, p1, iVector2, p2, oVector); });
+}
+
+KAV_ENTRY void KAV_CALL VB_VMergeVectorsStr2(BSTR* iVector1, int p1, BSTR* iVector2, int p2) noexcept {
+  return guarded<void>([&] { return entries::VB_VMergeVectorsStr2(iVector1, p1, iVector2, p2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeTablesDbl(
+    double* iMat1, int NbRowMat1, int NbColMat1, double* iMat2, int NbRowMat2, int NbColMat2, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeTablesDbl(iMat1, NbRowMat1, NbColMat1, iMat2, NbRowMat2, NbColMat2, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeTablesDbl2(
+    double* iMat1, int NbRowMat1, int NbColMat1, double* iMat2, int NbRowMat2, int NbColMat2) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeTablesDbl2(iMat1, NbRowMat1, NbColMat1, iMat2, NbRowMat2, NbColMat2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeTablesBool(
+    VARIANT_BOOL* iMat1, int NbRowMat1, int NbColMat1, VARIANT_BOOL* iMat2, int NbRowMat2, int NbColMat2,
+    VARIANT_BOOL* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeTablesBool(iMat1, NbRowMat1, NbColMat1, iMat2, NbRowMat2, NbColMat2, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeTablesBool2(
+    VARIANT_BOOL* iMat1, int NbRowMat1, int NbColMat1, VARIANT_BOOL* iMat2, int NbRowMat2, int NbColMat2) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeTablesBool2(iMat1, NbRowMat1, NbColMat1, iMat2, NbRowMat2, NbColMat2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeTablesStr(
+    BSTR* iMat1, int NbRowMat1, int NbColMat1, BSTR* iMat2, int NbRowMat2, int NbColMat2, BSTR* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeTablesStr(iMat1, NbRowMat1, NbColMat1, iMat2, NbRowMat2, NbColMat2, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_HMergeTablesStr2(
+    BSTR* iMat1, int NbRowMat1, int NbColMat1, BSTR* iMat2, int NbRowMat2, int NbColMat2) noexcept {
+  return guarded<void>([&] { return entries::VB_HMergeTablesStr2(iMat1, NbRowMat1, NbColMat1, iMat2, NbRowMat2, NbColMat2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_VMergeTablesDbl(
+    double* iMat1, int NbRowMat1, int NbColMat1, double* iMat2, int NbRowMat2, int NbColMat2, double* oMat) noexcept {
+  return guarded<void>([&] { return entries::VB_VMergeTablesDbl(iMat1, NbRowMat1, NbColMat1, iMat2, NbRowMat2, NbColMat2, oMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_CopyMatrixColToMatrixCol(
+    double* iMat, int n, int col, double* ioMat, int ColID, VARIANT_BOOL iRedimMat) noexcept {
+  return guarded<void>([&] { return entries::VB_CopyMatrixColToMatrixCol(iMat, n, col, ioMat, ColID, iRedimMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_CopyMatrixColToVector(double* iMat, int n, int ColID, double* oVector) noexcept {
+  return guarded<void>([&] { return entries::VB_CopyMatrixColToVector(iMat, n, ColID, oVector); });
+}
+
+KAV_ENTRY void KAV_CALL VB_CopyMatrixRowToMatrixRow(
+    double* iMat, int n, int p, int Line, double* ioMat, int n2, int RowID, VARIANT_BOOL iRedimMat) noexcept {
+  return guarded<void>([&] { return entries::VB_CopyMatrixRowToMatrixRow(iMat, n, p, Line, ioMat, n2, RowID, iRedimMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_CopyMatrixColToOneColMatStr(BSTR* iMat, int n, int iCol, BSTR* oVectMat) noexcept {
+  return guarded<void>([&] { return entries::VB_CopyMatrixColToOneColMatStr(iMat, n, iCol, oVectMat); });
+}
+
+KAV_ENTRY void KAV_CALL VB_GenerateIndicator(double* iVector, int n, int iStart, int iEnd) noexcept {
+  return guarded<void>([&] { return entries::VB_GenerateIndicator(iVector, n, iStart, iEnd); });
+}
+
+KAV_ENTRY void KAV_CALL VB_VMergeVectorsBool2(
+    VARIANT_BOOL* ioVect1, int n1, VARIANT_BOOL* iVect2, int n2) noexcept {
+  return guarded<void>([&] { return entries::VB_VMergeVectorsBool2(ioVect1, n1, iVect2, n2); });
+}
+
 KAV_ENTRY int KAV_CALL VB_InitVectorToFalse(VARIANT_BOOL* oVector, int n) noexcept {
   return guarded<int>([&] { return entries::VB_InitVectorToFalse(oVector, n); });
 }
@@ -970,6 +1159,18 @@ KAV_ENTRY void KAV_CALL VB_FilterEigen(
   return guarded<void>([&] { return entries::VB_FilterEigen(iEigenValues, p, iDoFilter, iFilter, iMinPerc, iMaxFact, iMaxVal, oNbEigen, oDispEigen, Percent); });
 }
 
+KAV_ENTRY int KAV_CALL RunOLSBasic(
+    int n, int p, double* X, double* Y, double* w, int iPolyDegree, VARIANT_BOOL iInteract2,
+    VARIANT_BOOL iFixedIntercept, double iTolerance, double* oCoeffs, double* oPredY) noexcept {
+  return guarded<int>([&] { return entries::RunOLSBasic(n, p, X, Y, w, iPolyDegree, iInteract2, iFixedIntercept, iTolerance, oCoeffs, oPredY); });
+}
+
+KAV_ENTRY int KAV_CALL RunOLSBasic2(
+    int n, int p, double* X, double* Y, double* w, int iPolyDegree, VARIANT_BOOL iInteract2,
+    VARIANT_BOOL iFixedIntercept, double iTolerance, double* oCoeffs, double* oStDevCoeffs, double* oPredY) noexcept {
+  return guarded<int>([&] { return entries::RunOLSBasic2(n, p, X, Y, w, iPolyDegree, iInteract2, iFixedIntercept, iTolerance, oCoeffs, oStDevCoeffs, oPredY); });
+}
+
 KAV_ENTRY void KAV_CALL VB_CheckTolerance(
     double* R, int p, int NbFactors, int* FactActive, int* FactType, int* FactSubParents, double Tolerance,
     VARIANT_BOOL FastRemoval, VARIANT_BOOL iCheckall, VARIANT_BOOL WithAnEq0, int* oNotToleratedVars,
@@ -985,6 +1186,12 @@ KAV_ENTRY void KAV_CALL VB_BiplotTransData(
     double* iScores, double* iScoresSupp, double* iLoadings, int n, int nSupp, int p, int iNbEigen,
     double* iEigenValues, double iScale, double iExpo, double* oNewScores, double* oNewLoadings) noexcept {
   return guarded<void>([&] { return entries::VB_BiplotTransData(iScores, iScoresSupp, iLoadings, n, nSupp, p, iNbEigen, iEigenValues, iScale, iExpo, oNewScores, oNewLoadings); });
+}
+
+KAV_ENTRY int KAV_CALL NewtonRaphson(
+    double* ioParamVect, int p, int* iConstraints, double* iDeriv1, double* iDeriv2, double iConvergence,
+    double* oStdErrVect, double* InvDeriv2, VARIANT_BOOL Checkchange, double Maxchange) noexcept {
+  return guarded<int>([&] { return entries::NewtonRaphson(ioParamVect, p, iConstraints, iDeriv1, iDeriv2, iConvergence, oStdErrVect, InvDeriv2, Checkchange, Maxchange); });
 }
 
 KAV_ENTRY int KAV_CALL CleanConstraintsAndInvert(

@@ -1,0 +1,209 @@
+#include "regression/least_squares.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <new>
+#include <vector>
+
+#include "algebra/covariance.h"
+#include "algebra/dense.h"
+#include "algebra/result_blocks.h"
+#include "algebra/standardization.h"
+#include "core/block.h"
+#include "core/thresholds.h"
+#include "decomp/packed.h"
+#include "platform/scalar.h"
+#include "stats/vector_sums.h"
+#include "tables/merges.h"
+
+namespace {
+
+/// Rows whose fitted values are built side by side: they stay in the first-level cache.
+constexpr int kRowsAtOnce = 1024;
+
+/// Explanatory columns of a design. Throws std::bad_alloc where a table cannot have them and the response.
+int designColumns(int p, int degree, short interactions) {
+  std::int64_t columns = std::int64_t{p} * degree;
+  if (degree > 1 && interactions == kTrue) columns += std::int64_t{p} * (p - 1) / 2;
+  if (columns >= std::numeric_limits<int>::max()) throw std::bad_alloc();
+  return static_cast<int>(columns);
+}
+
+/// Powers and products of the columns of x.
+std::unique_ptr<matrix> expanded(const matrix* x, int n, int p, int degree, int columns) {
+  auto design = std::make_unique<matrix>(n, columns);
+  block::copyTo(block::Values(x, n, p), n, p, design->values);
+  const auto column = [&](int j) { return design->values + std::ptrdiff_t{n} * j; };
+  const auto multiply = [&](int to, int left, int right) {
+    for (int i = 0; i < n; ++i) column(to)[i] = column(left)[i] * column(right)[i];
+  };
+  for (int j = p; j < p * degree; ++j) multiply(j, j - p, j % p);
+  int product = p * degree;
+  for (int i = 0; i < p && product < columns; ++i) {
+    for (int j = i + 1; j < p; ++j) multiply(product++, i, j);
+  }
+  return design;
+}
+
+/// The correlations of a design, the response last, and what leads back from them.
+struct Standardized {
+  Standardized(const matrix* x, int n, int q, const matrix* y, const matrix* weights, bool throughOrigin)
+      : total(V_Sum2(weights, n)), variables(q + 1) {
+    matrix* design = nullptr;
+    HMergeTables(x, n, q, y, n, 1, design);
+    const std::unique_ptr<matrix> owner(design);
+    matrix *m = &means, *s = &deviations, *v = &variances, *r = &correlations;
+    if (throughOrigin) {
+      M_MeanStDevVar(design, n, variables, m, s, v, nullptr, weights, kTrue, kTrue);
+      aboutOrigin(*design, n, weights);
+    } else {
+      M_CovCorrAndMeanStDevVar(design, n, variables, r, m, s, v, kTrue, nullptr, weights, kTrue, kTrue,
+                               kFalse, kFalse);
+    }
+  }
+
+  double total;
+  int variables;
+  matrix means{variables, 1, 0.0}, deviations{variables, 1, 0.0}, variances{variables, 1, 0.0},
+      correlations{variables, variables, 0.0};
+
+ private:
+  /// Products about 0, but deviations about the means: meant so.
+  void aboutOrigin(const matrix& design, int n, const matrix* weights) {
+    const block::Values rowWeights(weights, n);
+    result::into(&correlations, variables, variables, [&](block::Target& target) {
+      dense::multiplySymmetric({design.values, n, 1}, variables, n, target, dense::vectorScale(rowWeights));
+      for (int b = 0; b < variables; ++b) {
+        for (int a = 0; a < variables; ++a) {
+          const double scale = deviations.values[a] * deviations.values[b];
+          double& cell = target.column(b)[a];
+          cell = scale <= kEpsilon ? 0.0 : cell / (total - 1.0) / scale;
+        }
+      }
+    });
+  }
+};
+
+class Fit {
+ public:
+  Fit(Standardized& design, int n, double tolerance)
+      : design_(design), q_(design.variables - 1), freedom_(n - q_ - 1.0) {
+    swept_.resize(static_cast<std::size_t>(packed::cellsOf(design.variables)));
+    for (int i = 0; i <= q_; ++i) {
+      for (int j = 0; j <= i; ++j) packed::at(swept_.data(), i, j) = design.correlations.getElement(i, j);
+    }
+    for (int k = 0; k < q_; ++k) {
+      if (packed::toleranceWith(swept_.data(), q_, k, tolerance) <= tolerance) {
+        design.deviations.values[k] = 0.0;
+      } else {
+        packed::sweep(swept_.data(), design.variables, k);
+      }
+    }
+  }
+
+  bool isKept(int k) const { return std::fabs(deviation(k)) > kZero; }
+
+  double slope(int k) const { return isKept(k) ? deviation(q_) / deviation(k) * swept(q_, k) : 0.0; }
+
+  double error(int k) const {
+    return isKept(k)
+               ? deviation(q_) / deviation(k) * scalar::sqr(std::fabs(swept(q_, q_) * swept(k, k)) / freedom_)
+               : 0.0;
+  }
+
+  double intercept() const {
+    double b = mean(q_);
+    for (int k = 0; k < q_; ++k) {
+      if (isKept(k)) b -= slope(k) * mean(k);
+    }
+    return b;
+  }
+
+  double errorOfIntercept() const {
+    const double w = design_.total, y = deviation(q_);
+    double variance = y * y * swept(q_, q_) * (w - 1.0) / (w * freedom_);
+    for (int i = 0; i < q_; ++i) {
+      if (!isKept(i)) continue;
+      const double own = mean(i) * error(i);
+      variance += own * own;
+      for (int j = 0; j < i; ++j) {
+        const double scale = deviation(i) * deviation(j);
+        if (!isKept(j) || !(std::fabs(scale) > kEpsilon)) continue;
+        const double covariance = -(y * y / scale) * swept(q_, q_) * swept(i, j) / freedom_;
+        variance += 2.0 * mean(i) * mean(j) * covariance;
+      }
+    }
+    return scalar::sqr(variance);
+  }
+
+  /// Without a degree of freedom there are no standard errors.
+  bool hasErrors() const { return freedom_ > 0.0; }
+
+ private:
+  double mean(int k) const { return design_.means.values[k]; }
+  double deviation(int k) const { return design_.deviations.values[k]; }
+  double swept(int i, int j) const { return packed::at(swept_.data(), i, j); }
+
+  Standardized& design_;
+  int q_;
+  double freedom_;
+  std::vector<double> swept_;
+};
+
+/// The design times the coefficients, the last of which belongs to no column.
+void fit(const block::Values& design, int n, const matrix& coefficients, matrix* fitted) {
+  const int q = coefficients.nX - 1;
+  result::into(fitted, n, 1, [&](block::Target& target) {
+    for (std::ptrdiff_t begin = 0; begin < n; begin += kRowsAtOnce) {
+      const std::ptrdiff_t end = std::min(begin + kRowsAtOnce, std::ptrdiff_t{n});
+      std::fill(target.data() + begin, target.data() + end, 0.0);
+      for (int k = 0; k < q; ++k) {
+        const double* column = design.column(k);
+        const double b = coefficients.values[k];
+        for (std::ptrdiff_t i = begin; i < end; ++i) target[i] += b * column[i];
+      }
+      for (std::ptrdiff_t i = begin; i < end; ++i) target[i] += coefficients.values[q];
+    }
+  });
+}
+
+}  // namespace
+
+void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* weights, int degree,
+               short interactions, short throughOrigin, double tolerance, matrix*& coefficients,
+               matrix*& errors, matrix*& fitted) {
+  if (n < 1 || p < 1 || degree < 1) return;
+  const int q = designColumns(p, degree, interactions);
+  const std::unique_ptr<matrix> powers = degree == 1 ? nullptr : expanded(x, n, p, degree, q);
+  const matrix* explanatory = degree == 1 ? x : powers.get();
+  Standardized design(explanatory, n, q, y, weights, throughOrigin != 0);
+  const Fit model(design, n, tolerance);
+
+  matrix slopes(q + 1, 1, 0.0);
+  matrix::matCheck(errors, q + 1, 1, 0.0);
+  for (int k = 0; k < q; ++k) {
+    slopes.values[k] = model.slope(k);
+    errors->setElement(k, model.error(k));
+  }
+  if (throughOrigin == 0) {
+    slopes.values[q] = model.intercept();
+    errors->setElement(q, model.errorOfIntercept());
+  }
+  for (int k = 0; k <= q && !model.hasErrors(); ++k) errors->setMissing(k, true);
+  matrix::matCheck(coefficients, q + 1, 1, 0.0);
+  for (int k = 0; k <= q; ++k) coefficients->setElement(k, slopes.values[k]);
+  matrix::matCheck(fitted, n, 1, 0.0);
+  fit(block::Values(explanatory, n, q), n, slopes, fitted);
+}
+
+void OLSBasic(int n, int p, const matrix* x, const matrix* y, const matrix* weights, int degree,
+              short interactions, short throughOrigin, double tolerance, matrix*& coefficients,
+              matrix*& fitted) {
+  if (n < 1 || p < 1 || degree < 1) return;
+  matrix unused(designColumns(p, degree, interactions) + 1, 1);
+  matrix* errors = &unused;
+  OLSBasic2(n, p, x, y, weights, degree, interactions, throughOrigin, tolerance, coefficients, errors,
+            fitted);
+}

@@ -1,0 +1,19 @@
+// Single rows and columns of tables copied, indicators. As in blocks.h; targets are the caller's.
+#pragma once
+
+#include "core/Smatrix.h"
+#include "core/matrix.h"
+#include "platform/export.h"
+
+/// Column `column` of a (n rows) becomes column `toColumn` of b (n rows); positions below 1 change nothing.
+KAV_API void CopyMatrixColToMatrixCol(const matrix* a, int n, int column, matrix* b, int toColumn);
+
+/// Column `column` of a becomes the vector x (prepared, n x 1).
+KAV_API void CopyMatrixColToVector(const matrix* a, int n, int column, matrix*& x);
+KAV_API void CopyMatrixColToOneColMat(const Smatrix* a, int n, int column, Smatrix*& x);
+
+/// Row `row` of a (n x p) becomes row `toRow` of b (n2 x p); positions outside change nothing.
+KAV_API void CopyMatrixRowToMatrixRow(const matrix* a, int n, int p, int row, matrix* b, int n2, int toRow);
+
+/// n cells (prepared): 1.0 from position `from` to `to`, 0.0 elsewhere.
+KAV_API void GenerateIndicator(matrix*& x, int n, int from, int to);
