@@ -32,7 +32,7 @@ problems = []
 calls = 0
 for path in sys.argv[2:]:
     text = re.sub(r"(?m)'.*$", "", open(path, encoding="utf-8").read())
-    for match in re.finditer(r"\b(VB_(?!Name)\w+|ComputeCosines|CleanConstraints\w+|RunOLS\w+)[ (]", text):
+    for match in re.finditer(r"\b(VB_(?!Name)\w+|ComputeCosines|CleanConstraints\w+|RunOLS\w+|NewtonRaphson)[ (]", text):
         calls += 1
         wanted, given = declared.get(match[1]), arguments(text, match.end() - 1)
         if wanted != given:

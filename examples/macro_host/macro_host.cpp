@@ -1,7 +1,7 @@
 // The main job, as a macro would do it on real data: sums and means beside the exact ones, a descriptive
 // table of weighted data with missing cells, the mode of labels, ranks with ties, a table sorted by a key,
 // correlations with missing cells, a standardized table, an inverse checked by its product, principal
-// components.
+// components, a logistic regression, a linear one beside its certified values.
 //
 //     macro_host FOLDER    with the folder of the CSV files; a column named "weight" holds row weights
 
@@ -14,6 +14,7 @@
 #include "csv_table.h"
 #include "macro_engine.h"
 #include "principal_components.h"
+#include "regression.h"
 
 namespace {
 
@@ -231,9 +232,13 @@ int main(int argc, char** argv) {
     std::printf("\nPrincipal components: %s/mtcars.csv\n\n", folder.c_str());
     const bool found = printPrincipalComponents(dll, CsvTable(folder + "/mtcars.csv"), "car",
                                                 {"mpg", "disp", "hp", "drat", "wt", "qsec"});
+    std::printf("\n");
+    const bool converged = printLogisticRegression(dll, folder);
+    std::printf("\n");
+    const bool regressed = printLinearRegression(dll, folder);
     std::printf("\n%s\n", complete && missing ? "All means agree with the exact ones."
                                               : "Some means differ from the exact ones.");
-    return complete && missing && inverted && found ? 0 : 1;
+    return complete && missing && inverted && found && converged && regressed ? 0 : 1;
   } catch (const std::exception& problem) {
     std::fprintf(stderr, "macro_host: %s\n", problem.what());
     return 2;

@@ -123,7 +123,7 @@ class PairwiseCoMoments {
  public:
   PairwiseCoMoments(const Cells& cells, int n, int p, const short* rowFlags, const matrix* weights)
       : p_(p),
-        stride_(paddedToLanes(p)),
+        stride_(paddedToLanes(p) + kernels::kMostLanes),
         sums_(static_cast<std::size_t>(5 * stride_ * p)),
         x_(static_cast<std::size_t>(stride_ * shared_rows::kBlock)),
         present_(x_.size()) {
@@ -138,13 +138,14 @@ class PairwiseCoMoments {
 
  private:
   void add(const shared_rows::RowBlocks& rows, const Cells& cells) {
-    for (int r = 0; r < rows.count(); ++r) {
-      const int i = rows.rows()[r];
-      for (int j = 0; j < p_; ++j) {
-        const usable::Present present = cells.present(j);
+    for (int j = 0; j < p_; ++j) {
+      const usable::Present present = cells.present(j);
+      for (int r = 0; r < rows.count(); ++r) {
+        const int i = rows.rows()[r];
+        const std::uint64_t there = present(i) ? ~std::uint64_t{0} : 0;
         const auto at = static_cast<std::size_t>(stride_ * r + j);
-        present_[at] = present(i) ? ~std::uint64_t{0} : 0;
-        x_[at] = present(i) ? cells.column(j)[i] : 0.0;
+        present_[at] = there;
+        x_[at] = there != 0 ? present.x[i] : 0.0;
       }
     }
     const kernels::Table& kernel = kernels::best();
@@ -159,12 +160,15 @@ class PairwiseCoMoments {
       }
       double* sums = sums_.data() + 5 * stride_ * a;
       const kernels::PairRows pairs = {x_.data(), present_.data(), stride_, present, weights, count};
-      for (int b = a / kernel.pairLanes * kernel.pairLanes; b < p_; b += kernel.pairLanes) {
+      for (int b = a / kFewLanes * kFewLanes; b < p_; b += kernel.pairLanes) {
         kernel.pairMoments(
             pairs, a, b, {sums, sums + stride_, sums + 2 * stride_, sums + 3 * stride_, sums + 4 * stride_});
       }
     }
   }
+
+  /// Partners begin with a multiple of these, few of them before the column itself.
+  static constexpr int kFewLanes = 4;
 
   int p_;
   std::ptrdiff_t stride_;

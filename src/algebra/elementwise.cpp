@@ -1,8 +1,11 @@
 #include "algebra/elementwise.h"
 
+#include <emmintrin.h>
+
 #include <algorithm>
 
 #include "algebra/result_blocks.h"
+#include "core/screening.h"
 #include "kernels/kernels.h"
 
 using result::fill;
@@ -61,14 +64,48 @@ void transpose(const block::Values& from, int n, int p, double s, double* to, st
   kernels::best().transpose({from.data(), from.stride(), n, p, s, to, stride});
 }
 
+/// The extremes of a column in which every cell counts and no other rule can show: without a marker, without
+/// NaN, and not zeros of either sign.
+struct PlainExtremes {
+  PlainExtremes(const double* column, int n) {
+    if (n < 2) return;
+    const __m128d marker = _mm_set1_pd(kMissing);
+    __m128d low = _mm_loadu_pd(column), high = low, odd = _mm_setzero_pd();
+    const auto look = [&](const double* cells) {
+      const __m128d x = _mm_loadu_pd(cells);
+      odd = _mm_or_pd(odd, _mm_or_pd(_mm_cmpunord_pd(x, x), _mm_cmpeq_pd(x, marker)));
+      low = _mm_min_pd(x, low);
+      high = _mm_max_pd(x, high);
+    };
+    for (std::ptrdiff_t i = 0; i + 2 <= n; i += 2) look(column + i);
+    // The last cell together with the one before it, which has been looked at.
+    look(column + n - 2);
+    double lows[2], highs[2];
+    _mm_storeu_pd(lows, low);
+    _mm_storeu_pd(highs, high);
+    least = std::min(lows[0], lows[1]);
+    greatest = std::max(highs[0], highs[1]);
+    known = _mm_movemask_pd(odd) == 0 && least != 0.0 && greatest != 0.0;
+  }
+
+  bool known = false;
+  double least = 0.0, greatest = 0.0;
+};
+
 /// Extremes of a column by a rule that says which cell replaces which.
 template <class Replaces>
-void columnExtremes(const matrix* a, int n, int p, matrix* w, Replaces replaces) {
+void columnExtremes(const matrix* a, int n, int p, matrix* w, double PlainExtremes::*which,
+                    Replaces replaces) {
   if (!result::hasCells(n, p)) return;
   const block::Values cells(a, n, p);
   into(w, p, 1, [&](block::Target& extremes) {
     for (int j = 0; j < p; ++j) {
       const double* column = cells.column(j);
+      const PlainExtremes plain(column, n);
+      if (plain.known) {
+        extremes[j] = plain.*which;
+        continue;
+      }
       std::ptrdiff_t i = 0;
       while (i < n && isMarker(column[i])) ++i;
       double extreme = i < n ? column[i] : kMissing;
@@ -173,11 +210,11 @@ double M_Trace(const matrix* a, int n) {
 }
 
 void M_Max(const matrix* a, int n, int p, matrix* w) {
-  columnExtremes(a, n, p, w, [](double x, double extreme) { return x > extreme; });
+  columnExtremes(a, n, p, w, &PlainExtremes::greatest, [](double x, double extreme) { return x > extreme; });
 }
 
 void M_Min(const matrix* a, int n, int p, matrix* w) {
-  columnExtremes(a, n, p, w, [](double x, double extreme) { return x < extreme; });
+  columnExtremes(a, n, p, w, &PlainExtremes::least, [](double x, double extreme) { return x < extreme; });
 }
 
 void M_MinMax(const matrix* a, int n, int p, matrix* min, matrix* max, const short* exclude, short option) {
@@ -185,7 +222,19 @@ void M_MinMax(const matrix* a, int n, int p, matrix* min, matrix* max, const sho
   const block::Values cells(a, n, p);
   const block::Flags flags(a, n, p);
   block::Target least(min, p), greatest(max, p);
+  const bool nothingExcluded = option == kFalse && exclude != nullptr &&
+                               std::all_of(exclude, exclude + n, [](short flag) { return flag == 0; });
   for (int j = 0; j < p; ++j) {
+    const bool everyRow = option == kTrue
+                              ? !screening::anyFlagged(reinterpret_cast<const bool*>(flags.column(j)), n)
+                              : nothingExcluded;
+    if (everyRow) {
+      const PlainExtremes plain(cells.column(j), n);
+      least[j] = plain.least;
+      greatest[j] = plain.greatest;
+      // The search below begins at the marker: what lies under it is never the greatest.
+      if (plain.known && plain.greatest > kMissing) continue;
+    }
     double low = kMissing;
     double high = kMissing;
     for (int i = 0; i < n; ++i) {

@@ -276,7 +276,8 @@ int M_ProductBV(const matrix* b, int n, int p, const matrix* v, matrix* w) {
 void M_ProductVB(const matrix* v, int n, const matrix* b, int q, matrix*& w) {
   prepared(w, q, 1, n, [&](block::Target& target) {
     const block::Values table(b, n, q), vector(v, n);
-    dense::multiply(viewOf(table).transposed(), viewOf(vector), q, 1, n, target);
+    kernels::best().columnSums(
+        {table.data(), table.stride(), n, q, nullptr, nullptr, vector.data(), target.data()});
   });
 }
 

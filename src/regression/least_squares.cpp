@@ -138,8 +138,8 @@ class Fit {
     return scalar::sqr(variance);
   }
 
-  /// Without a degree of freedom there are no standard errors.
-  bool hasErrors() const { return freedom_ > 0.0; }
+  /// Without a degree of freedom or a weight there are no standard errors.
+  bool hasErrors() const { return freedom_ > 0.0 && design_.total != 0.0; }
 
  private:
   double mean(int k) const { return design_.means.values[k]; }
@@ -191,7 +191,10 @@ void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* wei
     slopes.values[q] = model.intercept();
     errors->setElement(q, model.errorOfIntercept());
   }
-  for (int k = 0; k <= q && !model.hasErrors(); ++k) errors->setMissing(k, true);
+  for (int k = 0; k <= q && !model.hasErrors(); ++k) {
+    errors->setElement(k, kMissing);
+    errors->setMissing(k, true);
+  }
   matrix::matCheck(coefficients, q + 1, 1, 0.0);
   for (int k = 0; k <= q; ++k) coefficients->setElement(k, slopes.values[k]);
   matrix::matCheck(fitted, n, 1, 0.0);

@@ -29,7 +29,7 @@
 /// @param throughOrigin non-zero: b(0) and se(0) are 0.0; correlations are sums of squares and products about
 ///                      0, divided by W - 1 and, meant so, by deviations about the means
 /// @param coefficients  q + 1 cells: slopes, then b(0)
-/// @param errors        standard errors alike; the marker, flagged, where f is not above 0
+/// @param errors        standard errors alike; the marker, flagged, where f is not above 0 or W is 0
 /// @param fitted        n cells: sum of b(k) times the row's design, then b(0)
 KAV_API void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* weights, int degree,
                        short interactions, short throughOrigin, double tolerance, matrix*& coefficients,

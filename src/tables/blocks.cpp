@@ -97,6 +97,7 @@ void M_ExtractMatToMatByCol(const matrix* a, int n, int p, int columnFrom, int c
 }
 
 void M_PasteBlock(const matrix* a, int n, int p, matrix* to, int n2, int p2, int row, int column) {
+  if (!result::hasCells(n, p, n2, p2)) return;
   const auto last = [](int first, int extent, int room) {
     return static_cast<int>(std::min<std::int64_t>(std::int64_t{first} + extent - 1, room));
   };

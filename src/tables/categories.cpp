@@ -81,7 +81,9 @@ void BuildDisjunctiveTable(const Smatrix* labels, int n, int p, const int* count
     for (int j = 0; j < columns; ++j) std::fill_n(target.column(j), n, 0.0);
     std::int64_t begin = 0;
     forEachColumn(p, counts, categories, [&](int j, int count, const Categories& known) {
-      const int kept = std::max(count - (dropsFirst || dropsLast ? 1 : 0), 0);
+      // The only category is the first as well as the last.
+      const bool keepsAll = leaveFirst != 0 && count == 1;
+      const int kept = std::max(count - ((dropsFirst || dropsLast) && !keepsAll ? 1 : 0), 0);
       const auto put = [&](int i, std::int64_t column, double x) {
         if (column < columns) target.column(static_cast<std::ptrdiff_t>(column))[i] = x;
       };
