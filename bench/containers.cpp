@@ -43,6 +43,7 @@ void enterConstruction(const std::string& work, int rows, int columns) {
 }  // namespace
 
 void enterContainers() {
+  openTable("Containers");
   enterConstruction("container of 10 x 1", 10, 1);
   enterConstruction("container of 1,000 x 1", 1000, 1);
   enterConstruction("container of 1,000,000 x 1", 1000000, 1);

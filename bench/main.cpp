@@ -1,8 +1,10 @@
 #include "ratios.h"
 
-void enterAlgebra();
 void enterContainers();
+void enterDecompositions();
+void enterProducts();
 void enterSorting();
+void enterTables();
 void enterVectorStatistics();
 void enterVectorSums();
 
@@ -11,6 +13,8 @@ int main(int argc, char** argv) {
   enterVectorSums();
   enterVectorStatistics();
   enterSorting();
-  enterAlgebra();
+  enterProducts();
+  enterDecompositions();
+  enterTables();
   return runContests(argc, argv);
 }

@@ -4,6 +4,7 @@
 
 #define ARMA_DONT_USE_WRAPPER
 #include <armadillo>
+#include <memory>
 
 #include "ratios.h"
 
@@ -24,6 +25,15 @@ void peers::enterArmadilloStatistics(const std::string& work, const double* a, i
   });
 }
 
+void peers::enterArmadilloStandardization(const std::string& work, const double* a, int n, int p) {
+  const auto table = std::make_shared<arma::mat>(a, static_cast<arma::uword>(n), static_cast<arma::uword>(p));
+  contest(work, "Armadillo, mean, stddev and division", [table] {
+    const arma::rowvec means = arma::mean(*table), deviations = arma::stddev(*table);
+    table->each_row() -= means;
+    table->each_row() /= deviations;
+  });
+}
+
 void peers::enterArmadilloCovariance(const std::string& work, const double* a, int n, int p) {
   contest(work, "Armadillo, cov",
           [=] { benchmark::DoNotOptimize(arma::mat(arma::cov(tableOf(a, n, p)))(0)); });
@@ -37,6 +47,7 @@ void peers::enterArmadilloInverse(const std::string& work, const double* a, int 
 #else
 
 void peers::enterArmadilloStatistics(const std::string&, const double*, int, int) {}
+void peers::enterArmadilloStandardization(const std::string&, const double*, int, int) {}
 void peers::enterArmadilloCovariance(const std::string&, const double*, int, int) {}
 void peers::enterArmadilloInverse(const std::string&, const double*, int) {}
 

@@ -122,11 +122,7 @@ void enterQuantiles(const std::string& work, int n) {
   });
 }
 
-std::string rowsText(int n) {
-  std::string text = std::to_string(n);
-  for (std::size_t place = text.size(); place > 3; place -= 3) text.insert(place - 3, ",");
-  return text + " rows";
-}
+std::string rowsText(int n) { return withThousands(n) + " rows"; }
 
 /// How cost grows with the number of rows.
 void enterCurves(int largest, int largestText) {
@@ -146,6 +142,7 @@ void enterCurves(int largest, int largestText) {
         std::to_string(std::abs(static_cast<int>(data->x->values[i])) % (largestText / 10));
     data->labels->cells[i] = u"label " + std::u16string(digits.begin(), digits.end());
   }
+  openTable("Growth of ranks");
   for (int n = 1000; n <= largest; n *= 10) {
     contest("V_GetRanks of " + rowsText(n), "library", [data, n] {
       matrix* ranks = nullptr;
@@ -162,6 +159,7 @@ void enterCurves(int largest, int largestText) {
     contest("V_NbDistinct of " + rowsText(n), "library",
             [data, n] { benchmark::DoNotOptimize(V_NbDistinct(data->x.get(), n)); });
   }
+  openTable("Growth of texts");
   for (int n = 1000; n <= largestText; n *= 10) {
     contest("V_FreqStr of " + rowsText(n), "library", [data, n] {
       benchmark::DoNotOptimize(V_FreqStr(data->labels.get(), n, data->ones.get(), u"label 77"));
@@ -176,6 +174,7 @@ void enterCurves(int largest, int largestText) {
 
 void enterSorting() {
   constexpr int kMany = 1000000;
+  openTable("Sorts and quantiles");
   enterRowSorts("SortQ of 10 random rows, 5 columns", randomNumbers(10));
   enterRowSorts("SortQ of 1,000 random rows, 5 columns", randomNumbers(1000));
   enterRowSorts("SortQ of 1,000,000 random rows, 5 columns", randomNumbers(kMany));

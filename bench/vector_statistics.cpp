@@ -159,6 +159,7 @@ void enterEntriesOfFewRows() {
 }  // namespace
 
 void enterVectorStatistics() {
+  openTable("Sums, means, variances, extremes");
   enterRows("10 rows", 10);
   enterRows("1,000,000 rows", 1000000);
   enterEntriesOfFewRows();

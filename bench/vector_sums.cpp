@@ -84,6 +84,7 @@ void enterRows(const std::string& rows, int n) {
 }  // namespace
 
 void enterVectorSums() {
+  openTable("Sums, means, variances, extremes");
   enterRows("10 rows", 10);
   enterRows("1,000,000 rows", 1000000);
 }
