@@ -1,5 +1,6 @@
 #include "ratios.h"
 
+void enterAssembly();
 void enterContainers();
 void enterDecompositions();
 void enterProducts();
@@ -16,5 +17,6 @@ int main(int argc, char** argv) {
   enterProducts();
   enterDecompositions();
   enterTables();
+  enterAssembly();
   return runContests(argc, argv);
 }

@@ -44,11 +44,22 @@ void peers::enterArmadilloInverse(const std::string& work, const double* a, int 
           [=] { benchmark::DoNotOptimize(arma::mat(arma::inv(tableOf(a, n, n)))(0)); });
 }
 
+void peers::enterArmadilloLeastSquares(const std::string& work, const double* x, const double* y, int n,
+                                       int p) {
+  contest(work, "Armadillo, solve", [=] {
+    const auto rows = static_cast<arma::uword>(n);
+    const arma::mat design = arma::join_rows(tableOf(x, n, p), arma::ones(rows));
+    const arma::vec response(const_cast<double*>(y), rows, false, true);
+    benchmark::DoNotOptimize(arma::vec(arma::solve(design, response))(0));
+  });
+}
+
 #else
 
 void peers::enterArmadilloStatistics(const std::string&, const double*, int, int) {}
 void peers::enterArmadilloStandardization(const std::string&, const double*, int, int) {}
 void peers::enterArmadilloCovariance(const std::string&, const double*, int, int) {}
 void peers::enterArmadilloInverse(const std::string&, const double*, int) {}
+void peers::enterArmadilloLeastSquares(const std::string&, const double*, const double*, int, int) {}
 
 #endif

@@ -24,6 +24,8 @@ void dpotrf_(const char* triangle, const int* n, double* a, const int* lda, int*
 void dgetrf_(const int* n, const int* p, double* a, const int* lda, int* pivots, int* info);
 void dgetri_(const int* n, double* a, const int* lda, const int* pivots, double* work, const int* size,
              int* info);
+void dgels_(const char* transposed, const int* n, const int* p, const int* sides, double* a, const int* lda,
+            double* b, const int* ldb, double* work, const int* size, int* info, Length);
 void dpptrf_(const char* triangle, const int* n, double* packed, int* info, Length);
 void dpptri_(const char* triangle, const int* n, double* packed, int* info, Length);
 
@@ -142,6 +144,18 @@ void peers::enterLapackPackedInverse(const std::string& work, const double* pack
   });
 }
 
+void peers::enterLapackLeastSquares(const std::string& work, const double* x, const double* y, int n, int p) {
+  enter(work, "LAPACK dgels", std::make_shared<Room>(x, sizeOf(n, p)), [n, p, y](Room& r) {
+    const int columns = p + 1, sides = 1, size = 64 * (columns + n);
+    r.u.resize(sizeOf(n, columns));
+    std::copy_n(r.a, sizeOf(n, p), r.u.data());
+    std::fill_n(r.u.data() + sizeOf(n, p), n, 1.0);
+    r.v.assign(y, y + n);
+    r.work.resize(static_cast<std::size_t>(size));
+    dgels_("N", &n, &columns, &sides, r.u.data(), &n, r.v.data(), &n, r.work.data(), &size, &r.info, 1);
+  });
+}
+
 #else
 
 void peers::enterLapackEigenvectors(const std::string&, const double*, int) {}
@@ -149,6 +163,7 @@ void peers::enterLapackSingularVectors(const std::string&, const double*, int, i
 void peers::enterLapackCholesky(const std::string&, const double*, int) {}
 void peers::enterLapackLuFactors(const std::string&, const double*, int) {}
 void peers::enterLapackInverse(const std::string&, const double*, int) {}
+void peers::enterLapackLeastSquares(const std::string&, const double*, const double*, int, int) {}
 void peers::enterLapackPackedInverse(const std::string&, const double*, int) {}
 
 #endif

@@ -29,12 +29,16 @@ void enterArmadilloStandardization(const std::string& work, const double* a, int
 void enterArmadilloCovariance(const std::string& work, const double* a, int n, int p);
 void enterArmadilloInverse(const std::string& work, const double* a, int n);
 
+/// Least squares with an intercept.
+void enterArmadilloLeastSquares(const std::string& work, const double* x, const double* y, int n, int p);
+
 /// Contestants by the system's LAPACK; none where it is not installed.
 void enterLapackEigenvectors(const std::string& work, const double* a, int n);
 void enterLapackSingularVectors(const std::string& work, const double* a, int n, int p);
 void enterLapackCholesky(const std::string& work, const double* a, int n);
 void enterLapackLuFactors(const std::string& work, const double* a, int n);
 void enterLapackInverse(const std::string& work, const double* a, int n);
+void enterLapackLeastSquares(const std::string& work, const double* x, const double* y, int n, int p);
 
 /// @param packed  the lower triangle row after row
 void enterLapackPackedInverse(const std::string& work, const double* packed, int n);

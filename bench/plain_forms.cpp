@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -524,5 +525,36 @@ void plain::tolerances(const double* cells, int p, double tolerance, double* lef
       left[k] = packedAt(s, p, p);
       if (left[k] < tolerance) break;
     }
+  }
+}
+
+void plain::leastSquares(const double* x, const double* y, const double* weights, int n, int p,
+                         double* fitted) {
+  const int q = p + 1;
+  const std::unique_ptr<bool[]> missing(new bool[static_cast<std::size_t>(n * q)]());
+  std::vector<double> design(x, x + std::ptrdiff_t{n} * p), c(static_cast<std::size_t>(q * q)), packed, means;
+  design.insert(design.end(), y, y + n);
+  covariances(design.data(), missing.get(), weights, n, q, c.data());
+  const auto deviation = [&](int k) { return std::sqrt(c[static_cast<std::size_t>(k + q * k)]); };
+  for (int j = 0; j < q; ++j) {
+    double sum = 0.0;
+    for (int i = 0; i < n; ++i) sum += design[static_cast<std::size_t>(i + n * j)];
+    means.push_back(sum / n);
+    for (int i = 0; i <= j; ++i) {
+      packed.push_back(c[static_cast<std::size_t>(i + q * j)] / (deviation(i) * deviation(j)));
+    }
+  }
+  for (int k = 0; k < p; ++k) sweep(packed.data(), q, k);
+  std::vector<double> slopes;
+  double intercept = means.back();
+  for (int k = 0; k < p; ++k) {
+    slopes.push_back(deviation(p) / deviation(k) * packedAt(packed.data(), p, k));
+    intercept -= slopes.back() * means[static_cast<std::size_t>(k)];
+  }
+  for (int i = 0; i < n; ++i) {
+    fitted[i] = 0.0;
+    for (int k = 0; k < p; ++k)
+      fitted[i] += slopes[static_cast<std::size_t>(k)] * x[i + std::ptrdiff_t{n} * k];
+    fitted[i] += intercept;
   }
 }

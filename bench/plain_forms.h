@@ -30,4 +30,7 @@ void sweep(double* s, int q, int k);
 /// Of each variable what a sweep on all others leaves of it. No variable is constant or given up.
 void tolerances(const double* r, int p, double tolerance, double* left);
 
+/// Least squares with an intercept by sweeps on correlations; nothing is left out. Fitted values (n cells).
+void leastSquares(const double* x, const double* y, const double* weights, int n, int p, double* fitted);
+
 }  // namespace plain

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
+#include <utility>
 #include <vector>
 
+#include "algebra/column_correlations.h"
 #include "algebra/dense.h"
 #include "algebra/result_blocks.h"
 #include "algebra/shared_rows.h"
@@ -30,18 +33,28 @@ struct CoMoment {
   }
 };
 
-/// A table of which cells are missing.
+/// Columns of a table, or of several, and which of their cells are missing.
 class Cells {
  public:
-  Cells(const matrix* a, int n, int p) : values_(a, n, p), flags_(a, n, p) {}
+  Cells(const matrix* a, int n, int p) : table_(std::in_place, a, n, p), flags_(a, n, p) {}
 
-  const double* column(int j) const { return values_.column(j); }
-  usable::Present present(int j) const { return {column(j), flags_.column(j)}; }
-  const bool* flags(int j) const { return reinterpret_cast<const bool*>(flags_.column(j)); }
+  /// Columns of n cells without flags.
+  Cells(const std::vector<const double*>& columns, int n)
+      : columns_(&columns), flags_(nullptr, 0, 0), none_(static_cast<std::size_t>(n)) {}
+
+  const double* column(int j) const {
+    return columns_ == nullptr ? table_->column(j) : (*columns_)[static_cast<std::size_t>(j)];
+  }
+  usable::Present present(int j) const { return {column(j), flagsOf(j)}; }
+  const bool* flags(int j) const { return reinterpret_cast<const bool*>(flagsOf(j)); }
 
  private:
-  block::Values values_;
+  const char* flagsOf(int j) const { return columns_ == nullptr ? flags_.column(j) : none_.data(); }
+
+  std::optional<block::Values> table_;
+  const std::vector<const double*>* columns_ = nullptr;
   block::Flags flags_;
+  std::vector<char> none_;
 };
 
 /// The rows that may take part, in order, with their weights.
@@ -193,10 +206,9 @@ struct ColumnStatistics {
 };
 
 /// Covariances of the upper triangle, the marker for a pair without a row.
-ColumnStatistics covariances(const matrix* a, int n, int p, const short* rowFlags, const matrix* weights,
+ColumnStatistics covariances(const Cells& cells, int n, int p, const short* rowFlags, const matrix* weights,
                              const Denominator& denominator, double* c) {
   ColumnStatistics s(p);
-  const Cells cells(a, n, p);
   if (isComplete(cells, n, p)) {
     shared_rows::RowBlocks rows(n, rowFlags, weights);
     const double total = completeCoMoments(rows, cells, p, c, s.means.data());
@@ -256,12 +268,12 @@ void storeFlagging(const double* c, int p, int q, matrix* target) {
 }
 
 /// Covariances or correlations into a prepared result.
-ColumnStatistics covCorr(const matrix* a, int n, int p, matrix*& target, short correlation,
+ColumnStatistics covCorr(const Cells& cells, int n, int p, matrix*& target, short correlation,
                          const short* rowFlags, const matrix* weights, const Denominator& denominator) {
   matrix::matCheck(target, p, p, 0.0);
   if (p < 1) return ColumnStatistics(0);
   std::vector<double> c(addressing::elementsInMemory<double>(p, p));
-  ColumnStatistics s = covariances(a, n, p, rowFlags, weights, denominator, c.data());
+  ColumnStatistics s = covariances(cells, n, p, rowFlags, weights, denominator, c.data());
   if (correlation != 0) toCorrelations(c.data(), p);
   for (int b = 0; b < p; ++b) {
     for (int i = 0; i < b; ++i) {
@@ -281,20 +293,7 @@ void put(matrix* vector, int j, double x) {
   }
 }
 
-}  // namespace
-
-int M_CovCorr(const matrix* a, int n, int p, matrix*& result, short correlation, const short* rowFlags,
-              const matrix* weights, short unbiased, short frequencyWeights) {
-  covCorr(a, n, p, result, correlation, rowFlags, weights, Denominator(unbiased, frequencyWeights));
-  return 0;
-}
-
-int M_CovCorrAndMeanStDevVar(matrix*& a, int n, int p, matrix*& result, matrix*& means, matrix*& stdevs,
-                             matrix*& variances, short correlation, const short* rowFlags,
-                             const matrix* weights, short unbiased, short frequencyWeights, short centre,
-                             short standardize) {
-  const ColumnStatistics s =
-      covCorr(a, n, p, result, correlation, rowFlags, weights, Denominator(unbiased, frequencyWeights));
+void giveStatistics(const ColumnStatistics& s, int p, matrix*& means, matrix*& stdevs, matrix*& variances) {
   for (matrix** vector : {&means, &stdevs, &variances}) matrix::matCheck(*vector, p, 1, 0.0);
   for (int j = 0; j < p; ++j) {
     const auto k = static_cast<std::size_t>(j);
@@ -304,6 +303,24 @@ int M_CovCorrAndMeanStDevVar(matrix*& a, int n, int p, matrix*& result, matrix*&
     put(stdevs, j, known ? scalar::sqr(variance) : kMissing);
     put(variances, j, known ? variance : kMissing);
   }
+}
+
+}  // namespace
+
+int M_CovCorr(const matrix* a, int n, int p, matrix*& result, short correlation, const short* rowFlags,
+              const matrix* weights, short unbiased, short frequencyWeights) {
+  covCorr(Cells(a, n, p), n, p, result, correlation, rowFlags, weights,
+          Denominator(unbiased, frequencyWeights));
+  return 0;
+}
+
+int M_CovCorrAndMeanStDevVar(matrix*& a, int n, int p, matrix*& result, matrix*& means, matrix*& stdevs,
+                             matrix*& variances, short correlation, const short* rowFlags,
+                             const matrix* weights, short unbiased, short frequencyWeights, short centre,
+                             short standardize) {
+  const ColumnStatistics s = covCorr(Cells(a, n, p), n, p, result, correlation, rowFlags, weights,
+                                     Denominator(unbiased, frequencyWeights));
+  giveStatistics(s, p, means, stdevs, variances);
   if (centre == kTrue || standardize == kTrue) {
     const block::Values cells(a, n, p), centres(means, p), scales(stdevs, p);
     result::fillInto(a, n, p, [&](int j) {
@@ -315,6 +332,14 @@ int M_CovCorrAndMeanStDevVar(matrix*& a, int n, int p, matrix*& result, matrix*&
     });
   }
   return 0;
+}
+
+void correlationsOfColumns(const std::vector<const double*>& columns, int n, const matrix* weights,
+                           matrix*& correlations, matrix*& means, matrix*& stdevs, matrix*& variances) {
+  const auto p = static_cast<int>(columns.size());
+  const ColumnStatistics s =
+      covCorr(Cells(columns, n), n, p, correlations, kTrue, nullptr, weights, Denominator(kTrue, kTrue));
+  giveStatistics(s, p, means, stdevs, variances);
 }
 
 void M_CorrMatMat(const matrix* a, int n, int p1, const matrix* b, int p2, matrix*& result,

@@ -7,16 +7,14 @@
 #include <new>
 #include <vector>
 
-#include "algebra/covariance.h"
+#include "algebra/column_correlations.h"
 #include "algebra/dense.h"
 #include "algebra/result_blocks.h"
-#include "algebra/standardization.h"
 #include "core/block.h"
 #include "core/thresholds.h"
 #include "decomp/packed.h"
 #include "platform/scalar.h"
 #include "stats/vector_sums.h"
-#include "tables/merges.h"
 
 namespace {
 
@@ -49,19 +47,15 @@ std::unique_ptr<matrix> expanded(const matrix* x, int n, int p, int degree, int 
 
 /// The correlations of a design, the response last, and what leads back from them.
 struct Standardized {
-  Standardized(const matrix* x, int n, int q, const matrix* y, const matrix* weights, bool throughOrigin)
+  Standardized(const block::Values& x, int n, int q, const block::Values& y, const matrix* weights,
+               bool throughOrigin)
       : total(V_Sum2(weights, n)), variables(q + 1) {
-    matrix* design = nullptr;
-    HMergeTables(x, n, q, y, n, 1, design);
-    const std::unique_ptr<matrix> owner(design);
+    std::vector<const double*> columns;
+    for (int j = 0; j < q; ++j) columns.push_back(x.column(j));
+    columns.push_back(y.data());
     matrix *m = &means, *s = &deviations, *v = &variances, *r = &correlations;
-    if (throughOrigin) {
-      M_MeanStDevVar(design, n, variables, m, s, v, nullptr, weights, kTrue, kTrue);
-      aboutOrigin(*design, n, weights);
-    } else {
-      M_CovCorrAndMeanStDevVar(design, n, variables, r, m, s, v, kTrue, nullptr, weights, kTrue, kTrue,
-                               kFalse, kFalse);
-    }
+    correlationsOfColumns(columns, n, weights, r, m, s, v);
+    if (throughOrigin) aboutOrigin(x, y, n, weights);
   }
 
   double total;
@@ -71,10 +65,13 @@ struct Standardized {
 
  private:
   /// Products about 0, but deviations about the means: meant so.
-  void aboutOrigin(const matrix& design, int n, const matrix* weights) {
+  void aboutOrigin(const block::Values& x, const block::Values& y, int n, const matrix* weights) {
     const block::Values rowWeights(weights, n);
+    std::vector<double> design(addressing::elementsInMemory<double>(n, variables));
+    block::copyTo(x, n, variables - 1, design.data());
+    std::copy_n(y.data(), n, design.data() + std::ptrdiff_t{n} * (variables - 1));
     result::into(&correlations, variables, variables, [&](block::Target& target) {
-      dense::multiplySymmetric({design.values, n, 1}, variables, n, target, dense::vectorScale(rowWeights));
+      dense::multiplySymmetric({design.data(), n, 1}, variables, n, target, dense::vectorScale(rowWeights));
       for (int b = 0; b < variables; ++b) {
         for (int a = 0; a < variables; ++a) {
           const double scale = deviations.values[a] * deviations.values[b];
@@ -178,7 +175,8 @@ void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* wei
   const int q = designColumns(p, degree, interactions);
   const std::unique_ptr<matrix> powers = degree == 1 ? nullptr : expanded(x, n, p, degree, q);
   const matrix* explanatory = degree == 1 ? x : powers.get();
-  Standardized design(explanatory, n, q, y, weights, throughOrigin != 0);
+  const block::Values cells(explanatory, n, q);
+  Standardized design(cells, n, q, block::Values(y, n), weights, throughOrigin != 0);
   const Fit model(design, n, tolerance);
 
   matrix slopes(q + 1, 1, 0.0);
@@ -198,7 +196,7 @@ void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* wei
   matrix::matCheck(coefficients, q + 1, 1, 0.0);
   for (int k = 0; k <= q; ++k) coefficients->setElement(k, slopes.values[k]);
   matrix::matCheck(fitted, n, 1, 0.0);
-  fit(block::Values(explanatory, n, q), n, slopes, fitted);
+  fit(cells, n, slopes, fitted);
 }
 
 void OLSBasic(int n, int p, const matrix* x, const matrix* y, const matrix* weights, int degree,
