@@ -7,6 +7,7 @@
 #include "algebra/result_blocks.h"
 #include "core/block.h"
 #include "core/range.h"
+#include "tables/texts.h"
 
 namespace {
 
@@ -85,11 +86,7 @@ void M_ExtractMatToMat(const matrix* a, int n, int p, int rowFrom, int rowTo, ma
 void M_ExtractMatToMat(const Smatrix* a, int n, int p, int rowFrom, int rowTo, Smatrix*& out) {
   const Range rows(n, rowFrom, rowTo);
   Smatrix::matCheck(out, rows.count(), p);
-  for (int j = 0; j < p; ++j) {
-    for (int i = 0; i < rows.count(); ++i) {
-      out->setElement(i, j, a == nullptr ? std::u16string() : a->getElement(rows.begin + i, j));
-    }
-  }
+  texts::fill(*out, [&](int i, int j) { return texts::cell(a, rows.begin + i, j); });
 }
 
 void M_ExtractMatToMatByCol(const matrix* a, int n, int p, int columnFrom, int columnTo, matrix*& out) {
@@ -130,11 +127,8 @@ void M_CopyResize(const matrix* a, int n, int p, matrix*& out, int n2, int p2) {
 
 void M_CopyResize(const Smatrix* a, int n, int p, Smatrix*& out, int n2, int p2) {
   Smatrix::matCheck(out, n2, p2);
-  for (int j = 0; j < p2; ++j) {
-    for (int i = 0; i < n2; ++i) {
-      out->setElement(i, j, a != nullptr && i < n && j < p ? a->getElement(i, j) : std::u16string());
-    }
-  }
+  texts::fill(*out,
+              [&](int i, int j) { return i < n && j < p ? texts::cell(a, i, j) : std::u16string_view(); });
 }
 
 void M_RemoveRow(const matrix* a, int n, int p, int row, matrix*& out) {

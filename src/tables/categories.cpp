@@ -8,17 +8,11 @@
 #include "algebra/result_blocks.h"
 #include "core/block.h"
 #include "stats/usable.h"
+#include "tables/texts.h"
 
 namespace {
 
 constexpr int kUnknown = -1;
-
-std::u16string_view cellOf(const Smatrix* labels, int i, int j) {
-  return labels == nullptr
-             ? std::u16string_view()
-             : usable::labelAt(labels,
-                               static_cast<std::ptrdiff_t>(addressing::linearIndex(i, j, labels->nX)));
-}
 
 /// The categories of one column.
 class Categories {
@@ -66,7 +60,7 @@ void M_ReplaceStrByCodes(const Smatrix* labels, int n, int p, const int* counts,
   result::prepared(codes, n, p, 1, [&](block::Target& target) {
     forEachColumn(p, counts, categories, [&](int j, int, const Categories& known) {
       for (int i = 0; i < n; ++i) {
-        const int position = used(i) ? known.positionOf(cellOf(labels, i, j)) : kUnknown;
+        const int position = used(i) ? known.positionOf(texts::cell(labels, i, j)) : kUnknown;
         target.column(j)[i] = position == kUnknown ? kMissing : static_cast<double>(first) + position;
       }
     });
@@ -88,7 +82,7 @@ void BuildDisjunctiveTable(const Smatrix* labels, int n, int p, const int* count
         if (column < columns) target.column(static_cast<std::ptrdiff_t>(column))[i] = x;
       };
       for (int i = 0; i < n; ++i) {
-        const int position = known.positionOf(cellOf(labels, i, j));
+        const int position = known.positionOf(texts::cell(labels, i, j));
         if (position == kUnknown) continue;
         const int column = position - (dropsFirst ? 1 : 0);
         if (column >= 0 && column < kept) {

@@ -5,6 +5,7 @@
 #include "core/addressing.h"
 #include "core/block.h"
 #include "missing/missing_values.h"
+#include "tables/texts.h"
 
 int V_SetToValue(matrix*& v, int n, double x) { return SetVectorToValue(v, n, x); }
 
@@ -37,11 +38,7 @@ void M_Duplicate(const matrix* a, int n, int p, matrix*& out) {
 
 void M_Duplicate(const Smatrix* a, int n, int p, Smatrix*& out) {
   Smatrix::matCheck(out, n, p);
-  for (int j = 0; j < p; ++j) {
-    for (int i = 0; i < n; ++i) {
-      out->setElement(i, j, a == nullptr ? std::u16string() : a->getElement(i, j));
-    }
-  }
+  texts::fill(*out, [&](int i, int j) { return texts::cell(a, i, j); });
 }
 
 void V_Reverse(const matrix* v, int n, matrix*& out) {

@@ -7,6 +7,7 @@
 
 #include "algebra/result_blocks.h"
 #include "core/block.h"
+#include "tables/texts.h"
 
 namespace {
 
@@ -54,10 +55,8 @@ void assemble(Smatrix*& c, int rows, int columns, const Piece<Smatrix>& first, c
   Smatrix::matCheck(c, rows, columns);
   for (const Piece<Smatrix>* piece : {&first, &second}) {
     for (int j = 0; j < piece->columns; ++j) {
-      for (int i = 0; i < piece->rows; ++i) {
-        c->setElement(piece->row + i, piece->column + j,
-                      piece->table == nullptr ? std::u16string() : piece->table->getElement(i, j));
-      }
+      std::u16string* to = c->cells + addressing::linearIndex(piece->row, piece->column + j, c->nX);
+      for (int i = 0; i < piece->rows; ++i) to[i] = texts::cell(piece->table, i, j);
     }
   }
 }

@@ -5,6 +5,7 @@
 #include "algebra/result_blocks.h"
 #include "core/block.h"
 #include "core/range.h"
+#include "tables/texts.h"
 
 namespace {
 
@@ -25,9 +26,8 @@ void CopyMatrixColToVector(const matrix* a, int n, int column, matrix*& x) {
 
 void CopyMatrixColToOneColMat(const Smatrix* a, int n, int column, Smatrix*& x) {
   Smatrix::matCheck(x, n, 1);
-  for (int i = 0; i < n; ++i) {
-    x->setElement(i, 0, a == nullptr || column < 1 ? std::u16string() : a->getElement(i, column - 1));
-  }
+  texts::fill(*x,
+              [&](int i, int) { return column < 1 ? std::u16string_view() : texts::cell(a, i, column - 1); });
 }
 
 void CopyMatrixRowToMatrixRow(const matrix* a, int n, int p, int row, matrix* b, int n2, int toRow) {
