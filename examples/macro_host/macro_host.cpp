@@ -150,15 +150,6 @@ void printSorted(const macro::Module& dll, const std::string& path) {
   }
 }
 
-Doubles columnsOf(const CsvTable& table, const std::vector<std::string>& names) {
-  Doubles cells;
-  for (const std::string& name : names) {
-    const Doubles column = table.numbers(name);
-    cells.insert(cells.end(), column.begin(), column.end());
-  }
-  return cells;
-}
-
 /// A p x p table, names in front of its rows.
 void printSquare(const std::vector<std::string>& names, const Doubles& cells) {
   const std::size_t p = names.size();
@@ -174,8 +165,7 @@ void printCorrelations(const macro::Module& dll, const std::string& path) {
   const CsvTable table(path);
   const std::vector<std::string> names = variables(table);
   const int rows = table.rows(), columns = static_cast<int>(names.size());
-  Doubles cells = columnsOf(table, names), weights = weightsOf(table),
-          correlations(names.size() * names.size());
+  Doubles cells = table.numbers(names), weights = weightsOf(table), correlations(names.size() * names.size());
   Flags none(weights.size());
   dll.integer(L"VB_M_CovCorr", {cells, rows, columns, correlations, true, none, weights, true, false});
   std::printf("\nWeighted correlations, each pair over its own rows: %s\n\n", path.c_str());
@@ -187,8 +177,7 @@ bool printStandardized(const macro::Module& dll, const std::string& path) {
   const CsvTable table(path);
   const std::vector<std::string> names = {"mpg", "hp", "wt", "qsec"};
   const int rows = table.rows(), columns = static_cast<int>(names.size());
-  Doubles cells = columnsOf(table, names), means(4), deviations(4), correlations(16), inverse(16),
-          product(16);
+  Doubles cells = table.numbers(names), means(4), deviations(4), correlations(16), inverse(16), product(16);
   dll.call(L"VB_M_Standardize3", {cells, rows, columns, means, deviations, true});
   std::printf("\nStandardized: %s, first rows\n\n", path.c_str());
   for (std::size_t i = 0; i < 5; ++i) {

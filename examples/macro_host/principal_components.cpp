@@ -8,11 +8,7 @@ bool printPrincipalComponents(const macro::Module& dll, const CsvTable& table, c
                               const std::vector<std::string>& variables) {
   const int rows = table.rows(), columns = static_cast<int>(variables.size());
   const std::size_t n = table.labels(labels).size(), p = variables.size();
-  std::vector<double> x, correlations(p * p), weights(n, 1.0);
-  for (const std::string& name : variables) {
-    const std::vector<double> column = table.numbers(name);
-    x.insert(x.end(), column.begin(), column.end());
-  }
+  std::vector<double> x = table.numbers(variables), correlations(p * p), weights(n, 1.0);
   std::vector<VARIANT_BOOL> excluded(n);
   Components c = {variables,
                   table.labels(labels),

@@ -11,15 +11,6 @@ namespace {
 
 using Doubles = std::vector<double>;
 
-Doubles columnsOf(const CsvTable& file, const std::vector<std::string>& names) {
-  Doubles cells;
-  for (const std::string& name : names) {
-    const Doubles column = file.numbers(name);
-    cells.insert(cells.end(), column.begin(), column.end());
-  }
-  return cells;
-}
-
 }  // namespace
 
 bool printLinearRegression(const macro::Module& dll, const std::string& folder) {
@@ -28,8 +19,7 @@ bool printLinearRegression(const macro::Module& dll, const std::string& folder) 
   c.names = {"x1", "x2", "x3", "x4", "x5", "x6"};
   const int rows = file.rows(), columns = static_cast<int>(c.names.size());
   const auto n = static_cast<std::size_t>(rows), p = c.names.size();
-  Doubles x = columnsOf(file, c.names), y = file.numbers("y"), weights(n, 1.0), fitted(n),
-          correlations(p * p);
+  Doubles x = file.numbers(c.names), y = file.numbers("y"), weights(n, 1.0), fitted(n), correlations(p * p);
   std::vector<VARIANT_BOOL> excluded(n);
   std::vector<int> selected = {1}, groups(p, 1), status(p);
   c.estimates.resize(p + 1);
@@ -52,13 +42,7 @@ bool printLinearRegression(const macro::Module& dll, const std::string& folder) 
 
 bool printLogisticRegression(const macro::Module& dll, const std::string& folder) {
   const CsvTable file(folder + "/mtcars.csv");
-  LogisticModel model;
-  model.rows = file.rows();
-  model.columns = 3;
-  model.response = file.numbers("am");
-  model.design.assign(static_cast<std::size_t>(model.rows), 1.0);
-  const Doubles others = columnsOf(file, {"wt", "hp"});
-  model.design.insert(model.design.end(), others.begin(), others.end());
+  const LogisticModel model(file, "am", {"wt", "hp"});
   Doubles b(3), errors(3), inverse(9);
   std::vector<int> constraints(3);
   int steps = 0, status = 0;

@@ -29,6 +29,9 @@ Public Sub LinearRegression()
     selected(1) = 1
     For j = 1 To p
         groups(j) = 1
+        ' One column alone is not compared with others.
+        tolerances(j) = 1
+        inflations(j) = 1
     Next j
     status = VB_M_CovCorr(x(1), n, p, r(1), True, excluded(1), weights(1), True, True)
     VB_CheckTolerance r(1), p, 1, selected(1), groups(1), groups(1), 0.000000001, False, False, False, codes(1), tolerances(1), inflations(1)
@@ -37,7 +40,11 @@ Public Sub LinearRegression()
     Set target = Worksheets.Add.Range("A1")
     target.Resize(1, 5).Value = Array("column", "estimate", "standard error", "tolerance", "inflation")
     For j = 1 To p
-        target.Offset(j, 0).Resize(1, 5).Value = Array(source.Cells(1, j).Value, estimates(j), errors(j), tolerances(j), inflations(j))
+        If estimates(j) = 0 And errors(j) = 0 Then
+            target.Offset(j, 0).Resize(1, 2).Value = Array(source.Cells(1, j).Value, "left out")
+        Else
+            target.Offset(j, 0).Resize(1, 5).Value = Array(source.Cells(1, j).Value, estimates(j), errors(j), tolerances(j), inflations(j))
+        End If
     Next j
     target.Offset(p + 1, 0).Resize(1, 3).Value = Array("intercept", estimates(p + 1), errors(p + 1))
 End Sub

@@ -3,6 +3,7 @@
 //
 //     principal_components mtcars.csv
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <stdexcept>
@@ -24,10 +25,8 @@ std::vector<double> cellsOf(const matrix& m) {
 Components componentsOf(const CsvTable& file, const std::vector<std::string>& variables) {
   const int n = file.rows(), p = static_cast<int>(variables.size());
   matrix table(n, p, 0.0);
-  for (int j = 0; j < p; ++j) {
-    const std::vector<double> column = file.numbers(variables[static_cast<std::size_t>(j)]);
-    for (int i = 0; i < n; ++i) table.setElement(i, j, column[static_cast<std::size_t>(i)]);
-  }
+  const std::vector<double> cells = file.numbers(variables);
+  std::copy(cells.begin(), cells.end(), table.values);
 
   matrix correlations(p, p, 0.0), values(p, 1, 0.0), vectors(p, p, 0.0), percentages(p, 1, 0.0),
       scores(n, p, 0.0), cosines(n, p, 0.0);

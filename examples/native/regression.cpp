@@ -2,6 +2,7 @@
 //
 //     regression FOLDER    with longley.csv, longley_certified.csv and mtcars.csv
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <stdexcept>
@@ -22,10 +23,8 @@ Doubles cellsOf(const matrix& m) { return {m.values, m.values + static_cast<std:
 
 /// Columns of a file side by side.
 void fill(matrix& table, const CsvTable& file, const std::vector<std::string>& names) {
-  for (int j = 0; j < table.pX; ++j) {
-    const Doubles column = file.numbers(names[static_cast<std::size_t>(j)]);
-    for (int i = 0; i < table.nX; ++i) table.setElement(i, j, column[static_cast<std::size_t>(i)]);
-  }
+  const Doubles cells = file.numbers(names);
+  std::copy(cells.begin(), cells.end(), table.values);
 }
 
 Coefficients fitted(const matrix& x, const matrix& y, const std::vector<std::string>& names) {
@@ -60,7 +59,7 @@ void printLinear(const std::string& folder) {
   const int n = file.rows(), p = 6;
   matrix x(n, p, 0.0), y(n, 1, 0.0);
   fill(x, file, names);
-  fill(y, file, {"y"});
+  fill(y, file, std::vector<std::string>{"y"});
   Coefficients c = fitted(x, y, names);
   addTolerances(c, x);
   c.certified = certified.numbers("estimate");
@@ -79,15 +78,7 @@ void printLinear(const std::string& folder) {
 
 void printLogistic(const std::string& folder) {
   const CsvTable file(folder + "/mtcars.csv");
-  LogisticModel model;
-  model.rows = file.rows();
-  model.columns = 3;
-  model.response = file.numbers("am");
-  model.design.assign(static_cast<std::size_t>(model.rows), 1.0);
-  for (const char* name : {"wt", "hp"}) {
-    const Doubles column = file.numbers(name);
-    model.design.insert(model.design.end(), column.begin(), column.end());
-  }
+  const LogisticModel model(file, "am", {"wt", "hp"});
   const int p = model.columns;
   const matrix excluded(p, 1, 0.0);
   matrix b(p, 1, 0.0), se(p, 1, 0.0), inverse(p, p, 0.0);

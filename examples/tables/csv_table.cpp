@@ -43,3 +43,12 @@ std::vector<double> CsvTable::numbers(const std::string& name) const {
   for (const std::string& cell : labels(name)) column.push_back(cell.empty() ? kEmptyCell : std::stod(cell));
   return column;
 }
+
+std::vector<double> CsvTable::numbers(const std::vector<std::string>& names) const {
+  std::vector<double> cells;
+  for (const std::string& name : names) {
+    const std::vector<double> column = numbers(name);
+    cells.insert(cells.end(), column.begin(), column.end());
+  }
+  return cells;
+}

@@ -20,6 +20,9 @@ class CsvTable {
   const std::vector<std::string>& labels(const std::string& name) const;
   std::vector<double> numbers(const std::string& name) const;
 
+  /// Columns one after the other: a table as macros hand it over.
+  std::vector<double> numbers(const std::vector<std::string>& names) const;
+
  private:
   std::vector<std::string> names_;
   std::vector<std::vector<std::string>> columns_;

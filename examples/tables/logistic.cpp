@@ -2,6 +2,16 @@
 
 #include <cmath>
 
+LogisticModel::LogisticModel(const CsvTable& file, const std::string& responseName,
+                             const std::vector<std::string>& names)
+    : design(static_cast<std::size_t>(file.rows()), 1.0),
+      response(file.numbers(responseName)),
+      rows(file.rows()),
+      columns(static_cast<int>(names.size()) + 1) {
+  const std::vector<double> others = file.numbers(names);
+  design.insert(design.end(), others.begin(), others.end());
+}
+
 std::vector<double> LogisticModel::probabilities(const std::vector<double>& parameters) const {
   std::vector<double> all;
   for (int i = 0; i < rows; ++i) {

@@ -2,12 +2,18 @@
 // asks for.
 #pragma once
 
+#include <string>
 #include <vector>
+
+#include "csv_table.h"
 
 /// Tables lie column after column; the first column of the design holds ones.
 struct LogisticModel {
+  /// A column of zeros and ones by others.
+  LogisticModel(const CsvTable& file, const std::string& responseName, const std::vector<std::string>& names);
+
   std::vector<double> design, response;
-  int rows = 0, columns = 0;
+  int rows, columns;
 
   std::vector<double> probabilities(const std::vector<double>& parameters) const;
 

@@ -40,6 +40,12 @@ Element* required(Element* array, int n, int p) {
   return array;
 }
 
+/// One column, 1-based, of a macro's table of n rows.
+template <class Element>
+Element* columnOf(Element* array, int n, int column) {
+  return array == nullptr ? nullptr : array + static_cast<std::ptrdiff_t>(std::max(n, 0)) * (column - 1);
+}
+
 /// A table of doubles, read only.
 class InTable {
  public:

@@ -1,9 +1,6 @@
 // Entries that put tables and vectors together.
 
 #include <algorithm>
-#include <cstdint>
-#include <limits>
-#include <new>
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
@@ -13,12 +10,7 @@ using namespace bridge;
 
 namespace {
 
-/// Two extents together. Throws std::bad_alloc where a container cannot have so many.
-int together(int a, int b) {
-  const std::int64_t sum = std::int64_t{std::max(a, 0)} + std::max(b, 0);
-  if (sum > std::numeric_limits<int>::max()) throw std::bad_alloc();
-  return static_cast<int>(sum);
-}
+using addressing::together;
 
 /// a, at its right b, straight to the macro's array where it shares none with them.
 void sideBySide(double* first, int n1, int p1, double* second, int n2, int p2, double* merged) {
@@ -115,9 +107,7 @@ void entries::VB_HMergeVectTable(double* iVect, int NbRowVect, double* iMat2, in
 void entries::VB_HMergeVectColDbl(double* iVect, int NbRowVect, double* iMat2, int NbRowMat2, int iCol,
                                   double* oMat) {
   if (iCol < 1) return;
-  double* column =
-      iMat2 == nullptr ? nullptr : iMat2 + static_cast<std::ptrdiff_t>(std::max(NbRowMat2, 0)) * (iCol - 1);
-  sideBySide(iVect, NbRowVect, 1, column, NbRowMat2, 1, oMat);
+  sideBySide(iVect, NbRowVect, 1, columnOf(iMat2, NbRowMat2, iCol), NbRowMat2, 1, oMat);
 }
 
 void entries::VB_VMergeVectorsDbl(double* iVector1, int p1, double* iVector2, int p2, double* oVector) {

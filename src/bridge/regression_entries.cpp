@@ -43,7 +43,7 @@ int entries::RunOLSBasic2(int n, int p, double* X, double* Y, double* w, int iPo
 int entries::NewtonRaphson(double* ioParamVect, int p, int* iConstraints, double* iDeriv1, double* iDeriv2,
                            double iConvergence, double* oStdErrVect, double* InvDeriv2,
                            VARIANT_BOOL Checkchange, double Maxchange) {
-  InOutTable parameters(ioParamVect, p, 1, Cells::KeepAll), errors(oStdErrVect, p, 1, Cells::KeepAll);
+  InOutTable parameters(ioParamVect, p, 1), errors(oStdErrVect, p, 1, Cells::KeepAll);
   const InInts excluded(iConstraints, p);
   const InVector gradient(iDeriv1, p);
   const InTable hessian(iDeriv2, p, p);

@@ -17,12 +17,6 @@ using namespace bridge;
 
 namespace {
 
-/// One column, 1-based, of a macro's table of n rows.
-template <class Element>
-Element* columnOf(Element* array, int n, int column) {
-  return array == nullptr ? nullptr : array + static_cast<std::ptrdiff_t>(std::max(n, 0)) * (column - 1);
-}
-
 std::int64_t totalOf(const int* counts, int p) {
   std::int64_t total = 0;
   for (int j = 0; j < p; ++j) total += std::max(counts[j], 0);
@@ -142,7 +136,7 @@ void entries::VB_M_MoveRow(double* iMat, int n, int p, int iRow, int iNewPos) {
 }
 
 int entries::VB_M_IsColConstant(double* iAMat, int n, int p) {
-  const InTable a(iAMat, n, p, Cells::KeepAll);
+  const InTable a(iAMat, n, p);
   return M_IsColConstant(a, n, p);
 }
 

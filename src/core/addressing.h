@@ -53,6 +53,13 @@ inline std::int64_t cellsSupplied(int rows, int columns, int srcRows, int srcCol
                   cellCount(rows, columns));
 }
 
+/// Two extents together, neither below 0. Throws std::bad_alloc where a container cannot have so many.
+inline int together(int a, int b) {
+  const std::int64_t sum = std::int64_t{std::max(a, 0)} + std::max(b, 0);
+  if (sum > std::numeric_limits<int>::max()) throw std::bad_alloc();
+  return static_cast<int>(sum);
+}
+
 /// Whether a pointer given to matCheck points to a container: not when it is null or was never set, in builds
 /// that fill memory with 0xCC.
 inline bool designatesContainer(const void* target) {

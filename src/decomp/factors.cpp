@@ -1,8 +1,6 @@
 // What factor analyses make of eigenvalues and coordinates.
 
 #include <algorithm>
-#include <limits>
-#include <new>
 #include <vector>
 
 #include "algebra/elementwise.h"
@@ -87,8 +85,7 @@ void BiplotTransData(const matrix* scores, const matrix* supplementary, const ma
                      int nSupp, int p, int axes, const matrix* values, double scale, double exponent,
                      matrix*& newScores, matrix*& newLoadings) {
   const int active = std::max(n, 0), others = supplementary == nullptr ? 0 : std::max(nSupp, 0);
-  if (others > std::numeric_limits<int>::max() - active) throw std::bad_alloc();
-  matrix::matCheck(newScores, active + others, axes, 0.0);
+  matrix::matCheck(newScores, addressing::together(active, others), axes, 0.0);
   matrix::matCheck(newLoadings, p, axes, 0.0);
   const block::Values cells(values, axes);
   std::vector<double> factors;

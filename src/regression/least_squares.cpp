@@ -10,6 +10,7 @@
 #include "algebra/column_correlations.h"
 #include "algebra/dense.h"
 #include "algebra/result_blocks.h"
+#include "algebra/standardization.h"
 #include "core/block.h"
 #include "core/thresholds.h"
 #include "decomp/packed.h"
@@ -26,6 +27,7 @@ int designColumns(int p, int degree, short interactions) {
   std::int64_t columns = std::int64_t{p} * degree;
   if (degree > 1 && interactions == kTrue) columns += std::int64_t{p} * (p - 1) / 2;
   if (columns >= std::numeric_limits<int>::max()) throw std::bad_alloc();
+  packed::cellsOf(static_cast<int>(columns) + 1);
   return static_cast<int>(columns);
 }
 
@@ -50,13 +52,23 @@ struct Standardized {
   Standardized(const block::Values& x, int n, int q, const block::Values& y, const matrix* weights,
                bool throughOrigin)
       : total(V_Sum2(weights, n)), variables(q + 1) {
+    matrix *m = &means, *sd = &deviations, *v = &variances, *r = &correlations;
+    if (throughOrigin) {
+      matrix design(n, variables);
+      block::copyTo(x, n, q, design.values);
+      std::copy_n(y.data(), n, design.values + std::ptrdiff_t{n} * q);
+      M_MeanStDevVar(&design, n, variables, m, sd, v, nullptr, weights, kTrue, kTrue);
+      aboutOrigin(design, weights);
+      return;
+    }
     std::vector<const double*> columns;
     for (int j = 0; j < q; ++j) columns.push_back(x.column(j));
     columns.push_back(y.data());
-    matrix *m = &means, *s = &deviations, *v = &variances, *r = &correlations;
-    correlationsOfColumns(columns, n, weights, r, m, s, v);
-    if (throughOrigin) aboutOrigin(x, y, n, weights);
+    correlationsOfColumns(columns, n, weights, r, m, sd, v);
   }
+
+  /// Deviations, and all that follows from them, need a sum of weights above 1.
+  bool isKnown() const { return total > 1.0; }
 
   double total;
   int variables;
@@ -65,13 +77,11 @@ struct Standardized {
 
  private:
   /// Products about 0, but deviations about the means: meant so.
-  void aboutOrigin(const block::Values& x, const block::Values& y, int n, const matrix* weights) {
+  void aboutOrigin(const matrix& design, const matrix* weights) {
+    const int n = design.nX;
     const block::Values rowWeights(weights, n);
-    std::vector<double> design(addressing::elementsInMemory<double>(n, variables));
-    block::copyTo(x, n, variables - 1, design.data());
-    std::copy_n(y.data(), n, design.data() + std::ptrdiff_t{n} * (variables - 1));
     result::into(&correlations, variables, variables, [&](block::Target& target) {
-      dense::multiplySymmetric({design.data(), n, 1}, variables, n, target, dense::vectorScale(rowWeights));
+      dense::multiplySymmetric({design.values, n, 1}, variables, n, target, dense::vectorScale(rowWeights));
       for (int b = 0; b < variables; ++b) {
         for (int a = 0; a < variables; ++a) {
           const double scale = deviations.values[a] * deviations.values[b];
@@ -92,7 +102,8 @@ class Fit {
       for (int j = 0; j <= i; ++j) packed::at(swept_.data(), i, j) = design.correlations.getElement(i, j);
     }
     for (int k = 0; k < q_; ++k) {
-      if (packed::toleranceWith(swept_.data(), q_, k, tolerance) <= tolerance) {
+      const bool enters = packed::toleranceWith(swept_.data(), q_, k, tolerance) > tolerance;
+      if (!enters || !(packed::at(swept_.data(), k, k) > 0.0)) {
         design.deviations.values[k] = 0.0;
       } else {
         packed::sweep(swept_.data(), design.variables, k);
@@ -135,8 +146,8 @@ class Fit {
     return scalar::sqr(variance);
   }
 
-  /// Without a degree of freedom or a weight there are no standard errors.
-  bool hasErrors() const { return freedom_ > 0.0 && design_.total != 0.0; }
+  /// Without a degree of freedom there are no standard errors.
+  bool hasErrors() const { return freedom_ > 0.0; }
 
  private:
   double mean(int k) const { return design_.means.values[k]; }
@@ -159,6 +170,8 @@ void fit(const block::Values& design, int n, const matrix& coefficients, matrix*
       for (int k = 0; k < q; ++k) {
         const double* column = design.column(k);
         const double b = coefficients.values[k];
+        // What has been left out shows nowhere, not even as 0.0 times infinity.
+        if (b == 0.0) continue;
         for (std::ptrdiff_t i = begin; i < end; ++i) target[i] += b * column[i];
       }
       for (std::ptrdiff_t i = begin; i < end; ++i) target[i] += coefficients.values[q];
@@ -177,25 +190,27 @@ void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* wei
   const matrix* explanatory = degree == 1 ? x : powers.get();
   const block::Values cells(explanatory, n, q);
   Standardized design(cells, n, q, block::Values(y, n), weights, throughOrigin != 0);
-  const Fit model(design, n, tolerance);
-
-  matrix slopes(q + 1, 1, 0.0);
+  matrix::matCheck(coefficients, q + 1, 1, 0.0);
   matrix::matCheck(errors, q + 1, 1, 0.0);
+  matrix::matCheck(fitted, n, 1, 0.0);
+  if (!design.isKnown()) {
+    for (matrix* unknown : {coefficients, errors, fitted}) {
+      for (int k = 0; k < unknown->nX; ++k) unknown->setElement(k, kMissing);
+    }
+    return;
+  }
+  const Fit model(design, n, tolerance);
+  const bool hasIntercept = throughOrigin == 0;
+  matrix slopes(q + 1, 1, 0.0);
   for (int k = 0; k < q; ++k) {
     slopes.values[k] = model.slope(k);
-    errors->setElement(k, model.error(k));
+    if (model.isKept(k)) errors->setElement(k, model.hasErrors() ? model.error(k) : kMissing);
   }
-  if (throughOrigin == 0) {
+  if (hasIntercept) {
     slopes.values[q] = model.intercept();
-    errors->setElement(q, model.errorOfIntercept());
+    errors->setElement(q, model.hasErrors() ? model.errorOfIntercept() : kMissing);
   }
-  for (int k = 0; k <= q && !model.hasErrors(); ++k) {
-    errors->setElement(k, kMissing);
-    errors->setMissing(k, true);
-  }
-  matrix::matCheck(coefficients, q + 1, 1, 0.0);
   for (int k = 0; k <= q; ++k) coefficients->setElement(k, slopes.values[k]);
-  matrix::matCheck(fitted, n, 1, 0.0);
   fit(cells, n, slopes, fitted);
 }
 

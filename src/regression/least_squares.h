@@ -18,6 +18,8 @@
 ///     b(k) = sd(y) / sd(k) d(y,k),        se(k) = sd(y) / sd(k) sqrt(|d(y,y) d(k,k)| / f)
 ///     b(0) = mean(y) - sum b(k) mean(k),  se(0)^2 = sd(y)^2 d(y,y) (W - 1) / (W f) + var(sum b(k) mean(k))
 ///
+/// Where W is not above 1 nothing is known: all cells of all results hold the marker.
+///
 /// A column that is left out has slope and standard error 0.0, and counts in q all the same; so does, through
 /// the origin, the intercept that is not there. Cost n q^2 + q^3.
 ///
@@ -29,7 +31,7 @@
 /// @param throughOrigin non-zero: b(0) and se(0) are 0.0; correlations are sums of squares and products about
 ///                      0, divided by W - 1 and, meant so, by deviations about the means
 /// @param coefficients  q + 1 cells: slopes, then b(0)
-/// @param errors        standard errors alike; the marker, flagged, where f is not above 0 or W is 0
+/// @param errors        standard errors alike; the marker for what is not left out where f is not above 0
 /// @param fitted        n cells: sum of b(k) times the row's design, then b(0)
 KAV_API void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* weights, int degree,
                        short interactions, short throughOrigin, double tolerance, matrix*& coefficients,

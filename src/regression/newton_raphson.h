@@ -11,7 +11,7 @@
 /// @param excluded    p cells: 0.0 estimated, above 0.0 excluded
 /// @param gradient    p cells, of the objective at the parameters
 /// @param hessian     p x p
-/// @param tolerance   converged when no estimated parameter moves by more
+/// @param tolerance   converged when no estimated parameter moves by more; one that becomes NaN does not
 /// @param errors      p cells out: the roots of the absolute diagonal of the inverse; not written where
 ///                    excluded (a null pointer receives a new container)
 /// @param inverse     prepared, p x p: of the estimated parameters, 0.0 in rows and columns of the others

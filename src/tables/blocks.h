@@ -3,8 +3,8 @@
 // Tables are leading n x p blocks, read as in algebra/products.h. Positions are 1-based, ranges inclusive,
 // and cut to the table, never into the next column. Results are prepared (a container of that shape is kept,
 // any other pointer receives a new one). Values are copied, never flags: the marker goes through as a value.
-// A flagged cell of a result keeps what it holds. Forms that end in 2 put the smaller table in place of the
-// operand.
+// A flagged cell of a result keeps what it holds. Results are other containers than operands. Forms that end
+// in 2 put the smaller table in place of the operand.
 #pragma once
 
 #include "core/Smatrix.h"

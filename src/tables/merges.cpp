@@ -1,20 +1,13 @@
 #include "tables/merges.h"
 
 #include <algorithm>
-#include <limits>
 #include <memory>
-#include <new>
 
 #include "algebra/result_blocks.h"
 #include "core/block.h"
 #include "tables/texts.h"
 
 namespace {
-
-int sum(int a, int b) {
-  if (b > std::numeric_limits<int>::max() - a) throw std::bad_alloc();
-  return a + b;
-}
 
 int atLeast0(int extent) { return std::max(extent, 0); }
 
@@ -64,14 +57,14 @@ void assemble(Smatrix*& c, int rows, int columns, const Piece<Smatrix>& first, c
 template <class Container>
 void sideBySide(const Container* a, int n1, int p1, const Container* b, int n2, int p2, Container*& c) {
   const int left = atLeast0(p1);
-  assemble(c, std::max(atLeast0(n1), atLeast0(n2)), sum(left, atLeast0(p2)),
+  assemble(c, std::max(atLeast0(n1), atLeast0(n2)), addressing::together(p1, p2),
            Piece<Container>(a, n1, p1, 0, 0), Piece<Container>(b, n2, p2, 0, left));
 }
 
 template <class Container>
 void below(const Container* a, int n1, int p1, const Container* b, int n2, int p2, Container*& c) {
   const int upper = atLeast0(n1);
-  assemble(c, sum(upper, atLeast0(n2)), std::max(atLeast0(p1), atLeast0(p2)),
+  assemble(c, addressing::together(n1, n2), std::max(atLeast0(p1), atLeast0(p2)),
            Piece<Container>(a, n1, p1, 0, 0), Piece<Container>(b, n2, p2, upper, 0));
 }
 

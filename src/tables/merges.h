@@ -3,8 +3,9 @@
 // Operands are leading blocks, read as in algebra/products.h; an extent below 1 has no cells. Results are
 // prepared (a container of that shape is kept, any other pointer receives a new one): 0.0 where neither
 // operand lies, a reused table of strings keeps what it holds there. Values are copied, never flags: the
-// marker goes through as a value. A flagged cell of a result keeps what it holds. Forms that end in 2 put the
-// result in place of the first operand. Sizes that a container cannot have throw std::bad_alloc.
+// marker goes through as a value. A flagged cell of a result keeps what it holds; it is another container
+// than the operands. Forms that end in 2 put the result in place of the first operand. Sizes that a container
+// cannot have throw std::bad_alloc.
 #pragma once
 
 #include "core/Smatrix.h"

@@ -8,7 +8,8 @@
 /// Column `column` of a (n rows) becomes column `toColumn` of b (n rows); positions below 1 change nothing.
 KAV_API void CopyMatrixColToMatrixCol(const matrix* a, int n, int column, matrix* b, int toColumn);
 
-/// Column `column` of a becomes the vector x (prepared, n x 1).
+/// Column `column` of a becomes the vector x (prepared, n x 1); a position below 1 gives 0.0, or empty
+/// strings.
 KAV_API void CopyMatrixColToVector(const matrix* a, int n, int column, matrix*& x);
 KAV_API void CopyMatrixColToOneColMat(const Smatrix* a, int n, int column, Smatrix*& x);
 
