@@ -1,5 +1,6 @@
 #include "algebra/products.h"
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -30,6 +31,7 @@ std::unique_ptr<matrix> inverseOf(const matrix* b, int n, double tolerance) {
 /// The diagonal of the leading block of a table, alone.
 std::vector<double> diagonalOf(const matrix* d, int size) {
   std::vector<double> diagonal;
+  diagonal.reserve(static_cast<std::size_t>(std::max(size, 0)));
   for (int k = 0; k < size; ++k) diagonal.push_back(d == nullptr ? kOutside : d->getElement(k, k));
   return diagonal;
 }

@@ -89,6 +89,7 @@ void BiplotTransData(const matrix* scores, const matrix* supplementary, const ma
   matrix::matCheck(newLoadings, p, axes, 0.0);
   const block::Values cells(values, axes);
   std::vector<double> factors;
+  factors.reserve(static_cast<std::size_t>(std::max(axes, 0)));
   for (int k = 0; k < axes; ++k) factors.push_back(scalar::power(cells[k], exponent) * scale);
   const auto times = [](double x, double g) { return x * g; };
   const auto divided = [](double x, double g) { return x / g; };

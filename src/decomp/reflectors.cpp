@@ -15,7 +15,7 @@ class Panel {
   explicit Panel(int rows)
       : kernel_(kernels::best()),
         lanes_(kernel_.reflectLanes),
-        cells_(static_cast<std::size_t>(lanes_ * rows)),
+        cells_(static_cast<std::size_t>(lanes_) * static_cast<std::size_t>(rows)),
         sums_(static_cast<std::size_t>(lanes_)),
         times_(sums_.size()) {}
 
@@ -70,9 +70,8 @@ void accumulate(const std::vector<Reflector>& order, const std::vector<int>& sta
     const int used = std::min(panel.lanes(), columns - first);
     panel.clear();
     // What a lane holds before its column starts is of no use, and goes along.
-    const auto startOf = [&](int lane) {
-      return static_cast<std::size_t>(startsAfter[static_cast<std::size_t>(first + lane)]);
-    };
+    const int* starts = startsAfter.data() + first;
+    const auto startOf = [=](int lane) { return static_cast<std::size_t>(starts[lane]); };
     const bool lastFirst = startOf(used - 1) < startOf(0);
     std::size_t done = std::min(startOf(0), startOf(used - 1));
     for (int k = 0; k < used; ++k) {

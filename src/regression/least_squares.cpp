@@ -62,6 +62,7 @@ struct Standardized {
       return;
     }
     std::vector<const double*> columns;
+    columns.reserve(static_cast<std::size_t>(q) + 1);
     for (int j = 0; j < q; ++j) columns.push_back(x.column(j));
     columns.push_back(y.data());
     correlationsOfColumns(columns, n, weights, r, m, sd, v);

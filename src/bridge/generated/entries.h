@@ -451,10 +451,12 @@ void VB_M_MeanStDevVarOneInMat(
     double* iMat, int n, int IDCol, double* Mean, double* StDev, double* Var, VARIANT_BOOL* iMissing,
     double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
 
-/// Copies the table without column iCol (1-based) into oMat (n x (p - 1)); markers stay as they are.
+/// Copies the table without column iCol (1-based; the last when there is none) into oMat (n x (p - 1));
+/// markers stay as they are.
 void VB_M_RemoveCol(double* iMat, int n, int p, int iCol, double* oMat);
 
-/// Copies the table without row iRow (1-based) into oMat ((n - 1) x p); markers stay as they are.
+/// Copies the table without row iRow (1-based; the last when there is none) into oMat ((n - 1) x p);
+/// markers stay as they are.
 void VB_M_RemoveRow(double* iMat, int n, int p, int iRow, double* oMat);
 
 /// Moves row iRow to row iNewPos (both 1-based) in place; the rows between shift by one.
@@ -870,7 +872,7 @@ void VB_SortApply(double* iMat, int n, int p, double* iSortVect, double* oMat);
 void VB_SortApplyStr(BSTR* iMat, int n, int p, double* iSortVect, BSTR* oMat);
 
 /// Indicator columns of the categories into oMat (n x pMaxCat). ConstraintType 0 keeps all, 1 drops the
-/// first, 2 the last, 3 sums to zero; LeaveFirstCol keeps the first.
+/// first, 2 the last, 3 sums to zero; LeaveFirstCol keeps the first. FreqCat is not used.
 void VB_BuildDisjunctiveTable(
     BSTR* iMat, int n, int p, int NbCatTotal, int* NbCat, BSTR* Cat, double* FreqCat, int pMaxCat,
     double* oMat, int ConstraintType, int LeaveFirstCol);
@@ -998,14 +1000,14 @@ void VB_FilterEigen(
     double* iEigenValues, int p, VARIANT_BOOL iDoFilter, double iFilter, double iMinPerc, int iMaxFact,
     double iMaxVal, int* oNbEigen, int* oDispEigen, double* Percent);
 
-/// Weighted least squares: slopes, then the intercept, into oCoeffs, n fitted values into oPredY;
-/// collinear columns get 0.0. Returns 0, or -1 when n, p or degree is below 1.
+/// Weighted least squares: slopes, then the intercept, into oCoeffs, fitted values into oPredY; missing
+/// cells count as 0.0, collinear columns get 0.0. Returns 0, or -1 when n, p or degree is below 1.
 int RunOLSBasic(
     int n, int p, double* X, double* Y, double* w, int iPolyDegree, VARIANT_BOOL iInteract2,
     VARIANT_BOOL iFixedIntercept, double iTolerance, double* oCoeffs, double* oPredY);
 
-/// Least squares as RunOLSBasic, with standard errors in oStDevCoeffs, laid out as oCoeffs; columns left
-/// out get 0.0. Returns 0, or -1 when n, p or degree is below 1.
+/// As RunOLSBasic, standard errors in oStDevCoeffs, laid out as oCoeffs: 0.0 for columns left out, the
+/// marker without degrees of freedom. Returns 0, or -1 when n, p or degree is below 1.
 int RunOLSBasic2(
     int n, int p, double* X, double* Y, double* w, int iPolyDegree, VARIANT_BOOL iInteract2,
     VARIANT_BOOL iFixedIntercept, double iTolerance, double* oCoeffs, double* oStDevCoeffs, double* oPredY);

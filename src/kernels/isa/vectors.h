@@ -31,7 +31,6 @@ typedef long long Bits __attribute__((vector_size(KAV_VECTOR_BYTES), aligned(8),
 constexpr Index kNarrowLanes = kLanes < 4 ? kLanes : 4;
 
 typedef double Narrow __attribute__((vector_size(kNarrowLanes * sizeof(double)), aligned(8), may_alias));
-typedef long long Lanes __attribute__((vector_size(kNarrowLanes * sizeof(double))));
 
 [[maybe_unused]] inline Narrow loadNarrow(const double* from) {
   return *reinterpret_cast<const Narrow*>(from);
@@ -42,17 +41,17 @@ typedef long long Lanes __attribute__((vector_size(kNarrowLanes * sizeof(double)
 /// Lane i of column j becomes lane j of row i.
 [[maybe_unused]] inline void transposeLanes(const Narrow* columns, Narrow* rows) {
 #if KAV_VECTOR_BYTES == 16
-  rows[0] = __builtin_shuffle(columns[0], columns[1], Lanes{0, 2});
-  rows[1] = __builtin_shuffle(columns[0], columns[1], Lanes{1, 3});
+  rows[0] = __builtin_shufflevector(columns[0], columns[1], 0, 2);
+  rows[1] = __builtin_shufflevector(columns[0], columns[1], 1, 3);
 #else
-  const Narrow even01 = __builtin_shuffle(columns[0], columns[1], Lanes{0, 4, 2, 6});
-  const Narrow odd01 = __builtin_shuffle(columns[0], columns[1], Lanes{1, 5, 3, 7});
-  const Narrow even23 = __builtin_shuffle(columns[2], columns[3], Lanes{0, 4, 2, 6});
-  const Narrow odd23 = __builtin_shuffle(columns[2], columns[3], Lanes{1, 5, 3, 7});
-  rows[0] = __builtin_shuffle(even01, even23, Lanes{0, 1, 4, 5});
-  rows[1] = __builtin_shuffle(odd01, odd23, Lanes{0, 1, 4, 5});
-  rows[2] = __builtin_shuffle(even01, even23, Lanes{2, 3, 6, 7});
-  rows[3] = __builtin_shuffle(odd01, odd23, Lanes{2, 3, 6, 7});
+  const Narrow even01 = __builtin_shufflevector(columns[0], columns[1], 0, 4, 2, 6);
+  const Narrow odd01 = __builtin_shufflevector(columns[0], columns[1], 1, 5, 3, 7);
+  const Narrow even23 = __builtin_shufflevector(columns[2], columns[3], 0, 4, 2, 6);
+  const Narrow odd23 = __builtin_shufflevector(columns[2], columns[3], 1, 5, 3, 7);
+  rows[0] = __builtin_shufflevector(even01, even23, 0, 1, 4, 5);
+  rows[1] = __builtin_shufflevector(odd01, odd23, 0, 1, 4, 5);
+  rows[2] = __builtin_shufflevector(even01, even23, 2, 3, 6, 7);
+  rows[3] = __builtin_shufflevector(odd01, odd23, 2, 3, 6, 7);
 #endif
 }
 
