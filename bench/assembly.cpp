@@ -84,7 +84,7 @@ void enterIndicators() {
     const auto column = labels(n, 1, 1000);
     const auto table = std::make_shared<matrix>(n, 1000);
     contest(
-        "BuildDisjunctiveTable, " + withThousands(n) + " rows, 1,000 categories", "library, each row",
+        "BuildDisjunctiveTable, each of " + withThousands(n) + " rows, 1,000 categories", "library",
         [=] {
           const int counts[] = {1000};
           matrix* c = table.get();
