@@ -9,6 +9,7 @@
 /// Solves A.X = B and inverts A, both in place, by Gauss-Jordan elimination with full pivoting (Press,
 /// Teukolsky, Vetterling and Flannery 1992, section 2.1). The pivot is the largest cell in absolute value
 /// whose row and column have not been used, of equal ones the last in row order.
+/// Where NaN leaves no candidate the pass takes its own diagonal cell.
 ///
 /// @param a  n x n
 /// @param b  n x m

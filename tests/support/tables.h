@@ -144,3 +144,20 @@ struct WeightedUpdate {
 
   double total = 0.0, count = 0.0, squares = 0.0, products = 0.0, meanA = 0.0, meanB = 0.0;
 };
+
+/// Whether run prepares a result with those cells, and no flag of its own.
+template <class Cell, class Run>
+void expectMakes(int rows, int columns, Cell cell, Run run) {
+  for (const bool reshaped : {false, true}) {
+    const auto inNewOne = [&](int, int, matrix*& c) {
+      if (reshaped && rows % 2 == 0) c = nullptr;
+      run(c);
+    };
+    WorkerCheck{rows, columns, 0}.inContainer("np ", cell, inNewOne, reshaped);
+  }
+  matrix whole(rows, columns, 4.75), expected(rows, columns, 0.0), *made = &whole;
+  byDefinition(expected, rows, columns, cell);
+  run(made);
+  EXPECT_TRUE(made == &whole && holds(whole, rows, columns, cellsOf(expected)));
+  EXPECT_EQ(flagsOf(whole), flagsOf(expected));
+}

@@ -27,23 +27,6 @@ matrix* pick(const matrix& a, const std::vector<int>& rows, const std::vector<in
   return made;
 }
 
-/// Whether run prepares a result with those cells, and no flag of its own.
-template <class Cell, class Run>
-void expectMakes(int rows, int columns, Cell cell, Run run) {
-  for (const bool reshaped : {false, true}) {
-    const auto inNewOne = [&](int, int, C c) {
-      if (reshaped && rows % 2 == 0) c = nullptr;
-      run(c);
-    };
-    WorkerCheck{rows, columns, 0}.inContainer("np ", cell, inNewOne, reshaped);
-  }
-  matrix whole(rows, columns, 4.75), expected(rows, columns, 0.0), *made = &whole;
-  byDefinition(expected, rows, columns, cell);
-  run(made);
-  EXPECT_TRUE(made == &whole && holds(whole, rows, columns, cellsOf(expected)));
-  EXPECT_EQ(flagsOf(whole), flagsOf(expected));
-}
-
 /// Whether run puts those cells in place of a table's; its flagged cells stay where it keeps its shape.
 template <class Run>
 void expectBecomes(const matrix& a, const matrix& expected, Run run) {

@@ -10,23 +10,6 @@ std::u16string textOf(double x, const char16_t* uncovered = u"") {
   return x == kOutside ? u"" : bits::of(x) == 0 ? uncovered : std::u16string(text.begin(), text.end());
 }
 
-/// Whether run prepares a result with those cells, and no flag of its own.
-template <class Cell, class Run>
-void expectMakes(int rows, int columns, Cell cell, Run run) {
-  for (const bool reshaped : {false, true}) {
-    const auto inNewOne = [&](int, int, matrix*& c) {
-      if (reshaped && rows % 2 == 0) c = nullptr;
-      run(c);
-    };
-    WorkerCheck{rows, columns, 0}.inContainer("np ", cell, inNewOne, reshaped);
-  }
-  matrix whole(rows, columns, 4.75), expected(rows, columns, 0.0), *made = &whole;
-  byDefinition(expected, rows, columns, cell);
-  run(made);
-  EXPECT_TRUE(made == &whole && holds(whole, rows, columns, cellsOf(expected)));
-  EXPECT_EQ(flagsOf(whole), flagsOf(expected));
-}
-
 template <class Cell, class Run>
 void expectStrings(int rows, int columns, Cell cell, Run run) {
   for (const bool reused : {false, true}) {
