@@ -18,12 +18,15 @@ from dataclasses import dataclass, field
 from pathlib import Path
 from textwrap import TextWrapper
 
+import manual
+
 ROOT = Path(__file__).resolve().parent.parent
 BRIDGE = ROOT / "src" / "bridge"
 IDL = BRIDGE / "KAVORATB1C.idl"
 UNBUILT = BRIDGE / "unbuilt.txt"
 NATIVES = BRIDGE / "native_exports.txt"
 GENERATED = BRIDGE / "generated"
+REFERENCE = ROOT / "docs" / "reference"
 
 FIRST_NATIVE_ORDINAL = 1001
 DERIVED = "Derived from KAVORATB1C.idl by tools/catalogue.py; do not edit."
@@ -205,6 +208,31 @@ def tests_table(entries):
     return f"// {DERIVED}\n// clang-format off\n" + "\n".join(row(e) for e in entries) + "\n"
 
 
+def test_prototypes(entries):
+    lines = "\n".join(f"{e.result} KAV_MACRO_CALL {e.name}({', '.join(p.cpp() for p in e.parameters)});"
+                      for e in entries if e.built)
+    return f"""// The entries as a program calls them. {DERIVED}
+// clang-format off
+#pragma once
+
+#include "manual/calls.h"
+
+extern "C" {{
+{lines}
+}}
+"""
+
+
+def test_calls(entries):
+    def row(e):
+        parameters = ", ".join(
+            f'{{"{p.name}", "{p.type}{"*" if p.by_reference else ""}", {"true" if "out" in p.direction else "false"}}}'
+            for p in e.parameters)
+        return f'    {{"{e.name}", entryOf(&{e.name}, {{{parameters}}})}},'
+
+    return f"// {DERIVED}\n// clang-format off\n" + "\n".join(row(e) for e in entries if e.built) + "\n"
+
+
 # ---- for macro authors ----
 
 BASIC_TYPES = {"double": "Double", "int": "Long", "VARIANT_BOOL": "Boolean"}
@@ -265,31 +293,9 @@ Option Explicit
 """
 
 
-def reference(entries):
-    built = sum(e.built for e in entries)
-    lines = [
-        "# Reference of the macro entries",
-        "",
-        f"<!-- {DERIVED} -->",
-        "",
-        f"{len(entries)} entries, {built} of them built so far. Tables are column after column; an array is passed as",
-        "the address of its first element. Missing values, flags, weights, options and failure values:",
-        "[conventions](conventions.md).",
-    ]
-    group = None
-    for e in entries:
-        if e.group != group:
-            group = e.group
-            lines += ["", f"## {group}"]
-        parameters = ", ".join(f"{p.direction.replace(', ', '/')} {p.cpp()}" for p in e.parameters)
-        lines += ["", f"**{e.name}** ({e.ordinal}){'' if e.built else ' - not built yet'}", ""]
-        lines += wrap(f"`{e.result} {e.name}({parameters})`", 110)
-        lines += ["", *wrap(e.help, 110)]
-    return "\n".join(lines) + "\n"
-
-
 def derived_files():
     entries, natives = read_catalogue(), read_natives()
+    pages = manual.pages(entries, REFERENCE, BRIDGE)
     return {
         GENERATED / "entries.h": entries_header(entries),
         GENERATED / "thunks.cpp": thunks(entries),
@@ -300,8 +306,11 @@ def derived_files():
         GENERATED / "KAVORATB1C.win64.def": windows_exports(entries, natives, lambda e: e.name),
         GENERATED / "KAVORATB1C.map": linux_exports(entries, natives),
         ROOT / "tests" / "windows" / "generated" / "catalogue.inc": tests_table(entries),
+        ROOT / "tests" / "manual" / "generated" / "prototypes.h": test_prototypes(entries),
+        ROOT / "tests" / "manual" / "generated" / "entries.inc": test_calls(entries),
         ROOT / "docs" / "KAVORATB1C.bas": basic_module(entries),
-        ROOT / "docs" / "reference.md": reference(entries),
+        REFERENCE / "index.md": manual.index(entries, pages, DERIVED),
+        **pages,
     }
 
 

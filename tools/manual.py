@@ -1,0 +1,151 @@
+"""The manual for macro authors, docs/reference/: what of it comes from the catalogue, and what it must not lack.
+
+A page holds the sections of one family of entries, `### NAME` each. Derived is the head of a section - declaration
+and the first two columns of its table of parameters; everything else is written by hand and kept. An entry without
+a section gets one at the end of its family's page: the page of the file in src/bridge that holds its body.
+"""
+
+import re
+from pathlib import Path
+
+HEADING = re.compile(r"^### (\w+)$", re.M)
+ROW = re.compile(r"^\| `(\w+)` \| [^|]* \|(.*)\|$", re.M)
+TYPES = {"double": "Double", "int": "Long", "VARIANT_BOOL": "Boolean", "BSTR": "String"}
+PASSED = {"in": "read", "out": "filled", "in, out": "read and rewritten"}
+TABLE_HEAD = "| parameter | passed | holds |\n|---|---|---|\n"
+
+
+def declaration(entry):
+    """As the macro editor shows it."""
+    def declare(p):
+        return f"{'' if p.by_reference else 'ByVal '}{p.name} As {TYPES[p.type]}"
+
+    kind = "Sub" if entry.result == "void" else "Function"
+    result = "" if entry.result == "void" else f" As {TYPES[entry.result]}"
+    lines, line = [], f"{kind} {entry.name}("
+    for k, p in enumerate(entry.parameters):
+        last = k == len(entry.parameters) - 1
+        part = declare(p) + (")" + result if last else ", ")
+        if len(line) + len(part) > 108:
+            lines.append(line + "_")
+            line = "    "
+        line += part
+    return "\n".join(lines + [line])
+
+
+def passed(parameter):
+    if not parameter.by_reference:
+        return TYPES[parameter.type]
+    return f"{TYPES[parameter.type]} array, {PASSED[parameter.direction]}"
+
+
+def head(entry, meanings):
+    rows = "".join(f"| `{p.name}` | {passed(p)} | {meanings.get(p.name, '')} |\n" for p in entry.parameters)
+    return f"### {entry.name}\n\n```vb\n{declaration(entry)}\n```\n\n{TABLE_HEAD}{rows}"
+
+
+def sections(text):
+    """Text before the first section, and (name, text) of each."""
+    found = list(HEADING.finditer(text))
+    ends = [match.start() for match in found[1:]] + [len(text)]
+    intro = text[:found[0].start()] if found else text
+    return intro, [(match[1], text[match.start():end]) for match, end in zip(found, ends)]
+
+
+def by_hand(section):
+    """The meanings of parameters and the text below the derived head."""
+    start = section.find(TABLE_HEAD)
+    if start < 0:
+        return {}, "\n" + section.split("\n", 1)[-1].lstrip("\n")
+    end = re.compile(r"^(?!\|)", re.M).search(section, start).start()
+    meanings = {name: meaning.strip() for name, meaning in ROW.findall(section[start:end])}
+    return meanings, section[end:]
+
+
+def families(bridge):
+    """Entry name: the page of the file that holds its body."""
+    pages = {}
+    for source in sorted(bridge.glob("*_entries.cpp")):
+        for name in re.findall(r"\bentries::(\w+)\(", source.read_text()):
+            pages[name] = source.stem.removesuffix("_entries") + ".md"
+    return pages
+
+
+def pages(entries, folder, bridge):
+    """Path: text of every page as it ought to be."""
+    by_name = {entry.name: entry for entry in entries}
+    texts = {path: path.read_text(encoding="ascii") for path in sorted(folder.glob("*.md")) if path.name != "index.md"}
+    result, placed = {}, set()
+    for path, text in texts.items():
+        intro, parts = sections(text)
+        out = [intro]
+        for name, section in parts:
+            if name not in by_name or name in placed:
+                raise SystemExit(f"{path.name}: {name} is no entry, or has two sections")
+            placed.add(name)
+            meanings, text_below = by_hand(section)
+            out.append(head(by_name[name], meanings) + text_below)
+        result[path] = "".join(out)
+    family = families(bridge)
+    for entry in entries:
+        if entry.name in placed or not entry.built:
+            continue
+        path = folder / family[entry.name]
+        before = result.get(path, f"# {path.stem}\n")
+        result[path] = before.rstrip("\n") + f"\n\n{head(entry, {})}\n{entry.help}\n"
+    return result
+
+
+def index(entries, texts, derived):
+    """One line for every entry, with a link to its section."""
+    where = {name: path.name for path, text in texts.items() for name in HEADING.findall(text)}
+    titles = {path.name: text.split("\n", 1)[0].removeprefix("# ") for path, text in texts.items()}
+    lines = [
+        "# Reference of the macro entries", "", f"<!-- {derived} -->", "",
+        f"{len(entries)} entries. What holds for all of them - arrays, missing values, flags, weights, options, failure",
+        "values - stands in the [conventions](../conventions.md); how to read the examples, at the end of this page.", "",
+        *(f"- [{title}]({name})" for name, title in titles.items()),
+    ]
+    group = None
+    for e in entries:
+        if e.group != group:
+            group = e.group
+            lines += ["", f"## {group}", "", "| entry | |", "|---|---|"]
+        link = f"[{e.name}]({where[e.name]}#{e.name.lower()})" if e.name in where else e.name
+        lines.append(f"| {link} | {e.help} |")
+    return "\n".join(lines) + "\n" + EXAMPLES
+
+
+EXAMPLES = """
+## The examples
+
+Every number in them is compared by a test with what the DLL gives. They are written short, not as macro code:
+
+```example
+price = {12.5, missing, 11, 14.25}
+excluded = {False, False, False, False}
+quantity = {3, 1, 2, 4}
+VB_V_Mean(price, 4, excluded, quantity) -> 12.9444
+VB_V_MinMax(price, 4, lowest, highest, excluded)
+lowest -> 11
+highest -> 14.25
+```
+
+A first line gives an array its cells: within a row they are separated by commas, rows by semicolons, as in a
+worksheet's array constants. `->` tells what the call gives back, and below it what arrays hold afterwards. `missing`
+is the marker -1.79769313486231E+308, `nothing` a null pointer, where an entry allows one. Numbers with decimals are
+rounded to the digits shown; those without are exact. In a macro the call reads
+`VB_V_Mean(price(1), 4, excluded(1), quantity(1))`, and tables are arrays `(1 To n, 1 To p)`.
+"""
+
+
+def faults(texts):
+    """What a page lacks: the meaning of a parameter, or a worked example."""
+    for path, text in texts.items():
+        for name, section in sections(text)[1]:
+            meanings, text_below = by_hand(section)
+            lacking = [parameter for parameter, meaning in meanings.items() if not meaning]
+            if lacking:
+                yield f"{path.name}: {name} does not say what {', '.join(lacking)} hold"
+            if "```example\n" not in text_below:
+                yield f"{path.name}: {name} has no example"
