@@ -1,5 +1,6 @@
 // Tables put together and taken apart, labels turned into columns, regressions.
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -55,7 +56,7 @@ void enterMoves() {
 std::shared_ptr<Smatrix> labels(int n, int p, int kinds) {
   auto table = std::make_shared<Smatrix>(n, p);
   for (int k = 0; k < n * p; ++k) {
-    const std::string text = "category " + std::to_string(k * 7919 % kinds);
+    const std::string text = "category " + std::to_string(std::int64_t{k} * 7919 % kinds);
     table->setElement(k, std::u16string(text.begin(), text.end()));
   }
   return table;

@@ -3,6 +3,7 @@
 void enterAssembly();
 void enterContainers();
 void enterDecompositions();
+void enterMissing();
 void enterProducts();
 void enterSorting();
 void enterTables();
@@ -18,5 +19,6 @@ int main(int argc, char** argv) {
   enterDecompositions();
   enterTables();
   enterAssembly();
+  enterMissing();
   return runContests(argc, argv);
 }

@@ -558,3 +558,89 @@ void plain::leastSquares(const double* x, const double* y, const double* weights
     fitted[i] += intercept;
   }
 }
+
+void plain::fillWithMeans(double* a, bool* missing, const double* weights, int n, int p) {
+  for (int j = 0; j < p; ++j) {
+    double* x = a + std::ptrdiff_t{n} * j;
+    bool* absent = missing + std::ptrdiff_t{n} * j;
+    double sum = 0.0, total = 0.0;
+    for (int i = 0; i < n; ++i) {
+      if (absent[i]) continue;
+      sum += weights[i] * x[i];
+      total += weights[i];
+    }
+    for (int i = 0; i < n; ++i) {
+      if (!absent[i]) continue;
+      x[i] = sum / total;
+      absent[i] = false;
+    }
+  }
+}
+
+void plain::fillFromNearest(double* numbers, bool* missing, int n, int p, std::u16string* labels,
+                            int labelColumns) {
+  constexpr double kFar = std::numeric_limits<double>::infinity();
+  const auto at = [n](int i, int j) { return i + std::ptrdiff_t{n} * j; };
+  const auto absent = [&](int i, int j) { return j < p ? missing[at(i, j)] : labels[at(i, j - p)].empty(); };
+  std::vector<double> ranges;
+  for (int j = 0; j < p; ++j) {
+    double least = kFar, most = -kFar;
+    for (int i = 0; i < n; ++i) {
+      if (missing[at(i, j)]) continue;
+      least = std::min(least, numbers[at(i, j)]);
+      most = std::max(most, numbers[at(i, j)]);
+    }
+    ranges.push_back(least < most ? most - least : 0.0);
+  }
+  const auto distance = [&](int i, int k) {
+    double sum = 0.0;
+    for (int j = 0; j < p; ++j) {
+      const double x = numbers[at(i, j)], y = numbers[at(k, j)], range = ranges[sizeOf(j)];
+      if (missing[at(i, j)] || missing[at(k, j)]) {
+        sum += 1.0;
+      } else if (range == 0.0) {
+        sum += x == y ? 0.0 : 1.0;
+      } else {
+        const double d = (x - y) / range;
+        sum += std::isnan(d) ? 1.0 : d * d;
+      }
+    }
+    for (int j = 0; j < labelColumns; ++j) {
+      const std::u16string &x = labels[at(i, j)], &y = labels[at(k, j)];
+      sum += x.empty() || y.empty() || x != y ? 1.0 : 0.0;
+    }
+    return sum;
+  };
+
+  struct Wanted {
+    int row, column;
+    double distance;
+    int donor;
+  };
+  // Filled at the end: what is filled teaches nothing.
+  std::vector<Wanted> all;
+  for (int i = 0; i < n; ++i) {
+    const std::size_t first = all.size();
+    for (int j = 0; j < p + labelColumns; ++j) {
+      if (absent(i, j)) all.push_back({i, j, kFar, -1});
+    }
+    if (all.size() == first) continue;
+    for (int k = 0; k < n; ++k) {
+      const double d = distance(i, k);
+      for (std::size_t c = first; c < all.size(); ++c) {
+        if (!(d < all[c].distance) || absent(k, all[c].column)) continue;
+        all[c].distance = d;
+        all[c].donor = k;
+      }
+    }
+  }
+  for (const Wanted& cell : all) {
+    if (cell.donor < 0) continue;
+    if (cell.column < p) {
+      numbers[at(cell.row, cell.column)] = numbers[at(cell.donor, cell.column)];
+      missing[at(cell.row, cell.column)] = false;
+    } else {
+      labels[at(cell.row, cell.column - p)] = labels[at(cell.donor, cell.column - p)];
+    }
+  }
+}

@@ -1,6 +1,8 @@
 // Workers as they are defined: plain loops on raw arrays, column after column, as one would write them first.
 #pragma once
 
+#include <string>
+
 namespace plain {
 
 /// Pairwise deletion with the weighted update, the denominator W - 1.
@@ -32,5 +34,12 @@ void tolerances(const double* r, int p, double tolerance, double* left);
 
 /// Least squares with an intercept by sweeps on correlations; nothing is left out. Fitted values (n cells).
 void leastSquares(const double* x, const double* y, const double* weights, int n, int p, double* fitted);
+
+/// Missing cells become the weighted mean of their column.
+void fillWithMeans(double* a, bool* missing, const double* weights, int n, int p);
+
+/// Missing cells become that of the row that has one and is nearest, by the distance of
+/// missing/nearest_neighbours.h: all distances to their end. Labels are missing when they are empty.
+void fillFromNearest(double* numbers, bool* missing, int n, int p, std::u16string* labels, int labelColumns);
 
 }  // namespace plain

@@ -124,11 +124,21 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_NormalizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
   Public Declare PtrSafe Sub VB_M_Standardize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
   Public Declare PtrSafe Sub VB_M_StandardizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
+  Public Declare PtrSafe Sub VB_M_InfoQuali Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal Mode As LongPtr, ByRef FreqMode As Double, ByRef NbCatTotal As Long, ByRef NbCat As Long, ByVal Cat As LongPtr, ByRef FreqCat As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal DoSort As Boolean)
+  Public Declare PtrSafe Sub VB_M_InfoQualiValid Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal nCat As Long, ByVal NbCatTotal As Long, ByRef NbCat As Long, ByVal Cat As LongPtr, ByRef FreqCatValid As Double, ByRef Problem As Boolean, ByRef iMissing As Boolean, ByRef w As Double)
   Public Declare PtrSafe Sub VB_M_MeanStDevVarOneInMat Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal IDCol As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare PtrSafe Function VB_M_IsLong Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long) As Boolean
+  Public Declare PtrSafe Sub VB_M_ReplaceMissingByVal Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal ival As Double)
+  Public Declare PtrSafe Sub VB_M_ReplaceMissingByStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal ival As LongPtr)
   Public Declare PtrSafe Sub VB_M_RemoveCol Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iCol As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_RemoveRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iRow As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_MoveRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iRow As Long, ByVal iNewPos As Long)
   Public Declare PtrSafe Sub VB_M_MinMax Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef VMin As Double, ByRef VMax As Double, ByRef iMissing As Boolean, ByVal MissingPerCol As Boolean)
+  Public Declare PtrSafe Sub VB_M_AllMissingRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef missing As Boolean, ByRef AllMissing As Boolean)
+  Public Declare PtrSafe Sub VB_M_AllMissingRowsStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByRef missing As Boolean, ByRef AllMissing As Boolean)
+  Public Declare PtrSafe Sub VB_M_NbMissing Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef NbMissing As Long)
+  Public Declare PtrSafe Sub VB_M_NbMissingStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByRef NbMissing As Long)
+  Public Declare PtrSafe Sub VB_M_NbNonMissing Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef NbNonMissing As Long)
   Public Declare PtrSafe Sub VB_M_Sums1As2B Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal s1 As Double, ByVal S2 As Double, ByRef oCMat As Double)
   Public Declare PtrSafe Sub VB_M_ProductVB Lib "KAVORATB1C.dll" (ByRef iAVec As Double, ByVal n As Long, ByRef iBMat As Double, ByVal p As Long, ByRef oCVec As Double)
   Public Declare PtrSafe Sub VB_M_ProductTrAB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double)
@@ -160,6 +170,7 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_LogMatrix Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean)
   Public Declare PtrSafe Sub VB_M_SumByCols Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare PtrSafe Sub VB_M_SumByRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
+  Public Declare PtrSafe Function VB_M_IsDisjTable Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef missing As Boolean, ByRef oNbVar As Long) As Boolean
   Public Declare PtrSafe Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare PtrSafe Sub VB_M_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iAMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal oMat As LongPtr)
   Public Declare PtrSafe Sub VB_M_CopyResize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal n2 As Long, ByVal p2 As Long)
@@ -175,9 +186,13 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_ProductHorizAB Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByRef oMat As Double, ByVal p As Long)
   Public Declare PtrSafe Sub VB_M_ProductHorizAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long)
   Public Declare PtrSafe Sub VB_M_ReplaceStrByCodes Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByRef NbCat As Long, ByVal Cat As LongPtr, ByRef iMissing As Boolean, ByVal iCodeStart As Long, ByRef oMat As Double)
+  Public Declare PtrSafe Function VB_M_IsSymmetric Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long) As Boolean
+  Public Declare PtrSafe Function VB_M_IsDiagConstant Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long) As Boolean
   Public Declare PtrSafe Sub VB_M_Symmetrize Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iType As Long)
+  Public Declare PtrSafe Function VB_M_IsTriangular Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iUpdateT As Boolean) As Long
   Public Declare PtrSafe Function VB_M_CheckIfSimOrDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iApriori As Long) As Long
   Public Declare PtrSafe Sub VB_M_TransformSimToDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long)
+  Public Declare PtrSafe Sub VB_M_SetWeightsToZeroForMissing Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal pW As Long)
   Public Declare PtrSafe Function VB_M_InverseTriang Lib "KAVORATB1C.dll" (ByRef iTriangMat As Double, ByVal n As Long, ByVal iIsLower As Boolean, ByRef oInvMat As Double, ByVal Eps As Double) As Long
   Public Declare PtrSafe Sub VB_M_SVDecomp Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByVal p As Long, ByRef s As Double, ByRef u As Double, ByVal ldu As Long, ByRef v As Double, ByVal ldv As Long, ByVal job As Long, ByRef info As Long)
   Public Declare PtrSafe Sub VB_M_Center Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
@@ -205,9 +220,15 @@ Option Explicit
   Public Declare PtrSafe Sub VB_M_Max Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMaxVect As Double)
   Public Declare PtrSafe Function VB_M_CholDecompCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef oMat As Double) As Long
   Public Declare PtrSafe Sub VB_M_CorrMatFromCovMat Lib "KAVORATB1C.dll" (ByRef iCovMat As Double, ByVal p As Long, ByRef oCorrMat As Double)
+  Public Declare PtrSafe Function VB_M_IsIn01 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long) As Boolean
   Public Declare PtrSafe Sub VB_M_PasteBlock Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef ioMat As Double, ByVal n2 As Long, ByVal p2 As Long, ByVal nStart As Long, ByVal pStart As Long)
   Public Declare PtrSafe Function VB_M_ProductTrV1BV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iBMat As Double, ByRef iVect2 As Double) As Double
   Public Declare PtrSafe Sub VB_M_CopyToBigger Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal nOut As Long, ByVal pOut As Long)
+  Public Declare PtrSafe Sub VB_M_SamplingRandomStratified Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal SampleSize As Long, ByVal oMat As LongPtr, ByRef idx As Double, ByRef ioSeed As Long, ByVal iSeedInit As Boolean, ByRef oSeed As Long)
+  Public Declare PtrSafe Sub VB_M_SamplingSystematicCentered Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal SampleSize As Long, ByVal oMat As LongPtr, ByRef idx As Double)
+  Public Declare PtrSafe Sub VB_M_SamplingSystematicRdStart Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal SampleSize As Long, ByVal oMat As LongPtr, ByRef idx As Double, ByRef ioSeed As Long, ByVal iSeedInit As Boolean, ByRef oSeed As Long)
+  Public Declare PtrSafe Sub VB_M_SampleUserDefined Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal oMat As LongPtr, ByRef idx As Double)
+  Public Declare PtrSafe Sub VB_M_SamplingWithReplacement Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal p As Long, ByVal SampleSize As Long, ByVal oMat As LongPtr, ByRef idx As Double, ByRef ioSeed As Long, ByVal iSeedInit As Boolean, ByRef oSeed As Long)
   Public Declare PtrSafe Sub VB_M_ProductDesignAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByVal iConstraintType As Long, ByRef w As Double, ByRef oInterFreqCat As Double)
   Public Declare PtrSafe Sub VB_M_Log10Matrix Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
   Public Declare PtrSafe Sub VB_M_ProductDiagVA Lib "KAVORATB1C.dll" (ByRef iDiagVect As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef oMat As Double)
@@ -255,13 +276,26 @@ Option Explicit
   Public Declare PtrSafe Sub VB_CopyMatrixRowToMatrixRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal [Line] As Long, ByRef ioMat As Double, ByVal n2 As Long, ByVal RowID As Long, ByVal iRedimMat As Boolean)
   Public Declare PtrSafe Sub VB_CopyMatrixColToOneColMatStr Lib "KAVORATB1C.dll" (ByVal iMat As LongPtr, ByVal n As Long, ByVal iCol As Long, ByVal oVectMat As LongPtr)
   Public Declare PtrSafe Sub VB_GenerateIndicator Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iStart As Long, ByVal iEnd As Long)
+  Public Declare PtrSafe Sub VB_GenerateRandomIndicator Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal n1 As Long, ByRef ioSeed As Long, ByVal iSeedInit As Boolean, ByRef oSeed As Long)
   Public Declare PtrSafe Sub VB_VMergeVectorsBool2 Lib "KAVORATB1C.dll" (ByRef ioVect1 As Boolean, ByVal n1 As Long, ByRef iVect2 As Boolean, ByVal n2 As Long)
+  Public Declare PtrSafe Sub VB_SummarizeAllMissing Lib "KAVORATB1C.dll" (ByVal n As Long, ByRef AllMissingX As Boolean, ByRef AllMissingQ As Boolean, ByRef NbAllMissing As Long, ByRef AllMissing As Boolean)
   Public Declare PtrSafe Function VB_InitVectorToFalse Lib "KAVORATB1C.dll" (ByRef oVector As Boolean, ByVal n As Long) As Long
   Public Declare PtrSafe Function VB_IsMissingValueDbl Lib "KAVORATB1C.dll" (ByVal iValue As Double) As Boolean
   Public Declare PtrSafe Function VB_IsMissingValueStr Lib "KAVORATB1C.dll" (ByVal iValue As LongPtr) As Boolean
+  Public Declare PtrSafe Sub VB_SummarizeMissing Lib "KAVORATB1C.dll" (ByVal n As Long, ByRef oNbMissing As Long, ByRef oMissing As Boolean, ByRef iMissing1 As Boolean, ByRef iMissing2 As Boolean, ByRef iMissing3 As Boolean)
+  Public Declare PtrSafe Sub VB_RemoveRowsWithMissing Lib "KAVORATB1C.dll" (ByRef ioTable As Double, ByVal n As Long, ByVal p As Long, ByVal NbMissing As Long, ByRef iMissing As Boolean, ByRef oTable As Double)
+  Public Declare PtrSafe Sub VB_RemoveRowsWithMissingStr Lib "KAVORATB1C.dll" (ByVal ioTable As LongPtr, ByVal n As Long, ByVal p As Long, ByVal NbMissing As Long, ByRef iMissing As Boolean, ByVal oTable As LongPtr)
+  Public Declare PtrSafe Sub VB_ReplaceMissingObsLabels Lib "KAVORATB1C.dll" (ByVal ioObsLabels As LongPtr, ByVal n As Long, ByRef iMissingObs As Boolean, ByVal iPrefixe As LongPtr)
+  Public Declare PtrSafe Sub VB_EstimateRowsWithMissingMean Lib "KAVORATB1C.dll" (ByRef ioTable As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double)
+  Public Declare PtrSafe Sub VB_EstimateRowsWithMissingMode Lib "KAVORATB1C.dll" (ByVal ioTable As LongPtr, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double)
+  Public Declare PtrSafe Sub VB_EstimateRowsWithMissingNN Lib "KAVORATB1C.dll" (ByRef iTable1Dbl As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMissing As Boolean, ByRef iTable2Dbl As Double, ByVal p2 As Long, ByVal iTable3Str As LongPtr, ByVal p3 As Long, ByRef w As Double)
+  Public Declare PtrSafe Sub VB_EstimateRowsWithMissingMeanPred Lib "KAVORATB1C.dll" (ByRef iTable As Double, ByVal nin As Long, ByRef ioTable As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double)
+  Public Declare PtrSafe Sub VB_EstimateRowsWithMissingModePred Lib "KAVORATB1C.dll" (ByVal iTable As LongPtr, ByVal nin As Long, ByVal ioTable As LongPtr, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double)
+  Public Declare PtrSafe Sub VB_EstimateRowsWithMissingNNPred Lib "KAVORATB1C.dll" (ByRef iiTable1Dbl As Double, ByVal nin As Long, ByRef iTable1Dbl As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMissing As Boolean, ByRef iiTable2Dbl As Double, ByRef iTable2Dbl As Double, ByVal p2 As Long, ByVal iiTable3Str As LongPtr, ByVal iTable3Str As LongPtr, ByVal p3 As Long, ByRef w As Double)
   Public Declare PtrSafe Function VB_CorrelPearson Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByRef iVector2 As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
   Public Declare PtrSafe Function VB_MAPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
   Public Declare PtrSafe Function VB_RMSE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByVal nY As Long, ByVal p As Long, ByRef PredY As Double, ByVal DF As Long) As Double
+  Public Declare PtrSafe Sub VB_ComputeNewVar Lib "KAVORATB1C.dll" (ByRef LCombines As Double, ByVal n As Long, ByVal p As Long, ByRef VarCov As Double, ByRef NewVarVect As Double, ByRef NewVarCov As Double)
   Public Declare PtrSafe Sub VB_FilterEigen Lib "KAVORATB1C.dll" (ByRef iEigenValues As Double, ByVal p As Long, ByVal iDoFilter As Boolean, ByVal iFilter As Double, ByVal iMinPerc As Double, ByVal iMaxFact As Long, ByVal iMaxVal As Double, ByRef oNbEigen As Long, ByRef oDispEigen As Long, ByRef Percent As Double)
   Public Declare PtrSafe Function RunOLSBasic Lib "KAVORATB1C.dll" (ByVal n As Long, ByVal p As Long, ByRef X As Double, ByRef Y As Double, ByRef w As Double, ByVal iPolyDegree As Long, ByVal iInteract2 As Boolean, ByVal iFixedIntercept As Boolean, ByVal iTolerance As Double, ByRef oCoeffs As Double, ByRef oPredY As Double) As Long
   Public Declare PtrSafe Function RunOLSBasic2 Lib "KAVORATB1C.dll" (ByVal n As Long, ByVal p As Long, ByRef X As Double, ByRef Y As Double, ByRef w As Double, ByVal iPolyDegree As Long, ByVal iInteract2 As Boolean, ByVal iFixedIntercept As Boolean, ByVal iTolerance As Double, ByRef oCoeffs As Double, ByRef oStDevCoeffs As Double, ByRef oPredY As Double) As Long
@@ -393,11 +427,21 @@ Option Explicit
   Public Declare Sub VB_M_NormalizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
   Public Declare Sub VB_M_Standardize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
   Public Declare Sub VB_M_StandardizeMatrix Lib "KAVORATB1C.dll" (ByRef ioM1 As Double, ByVal n1 As Long, ByVal p As Long, ByRef ioM2 As Double, ByVal n2 As Long, ByRef ioM3 As Double, ByVal n3 As Long)
+  Public Declare Sub VB_M_InfoQuali Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal Mode As Long, ByRef FreqMode As Double, ByRef NbCatTotal As Long, ByRef NbCat As Long, ByVal Cat As Long, ByRef FreqCat As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal DoSort As Boolean)
+  Public Declare Sub VB_M_InfoQualiValid Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal nCat As Long, ByVal NbCatTotal As Long, ByRef NbCat As Long, ByVal Cat As Long, ByRef FreqCatValid As Double, ByRef Problem As Boolean, ByRef iMissing As Boolean, ByRef w As Double)
   Public Declare Sub VB_M_MeanStDevVarOneInMat Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal IDCol As Long, ByRef Mean As Double, ByRef StDev As Double, ByRef Var As Double, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean)
+  Public Declare Function VB_M_IsLong Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long) As Boolean
+  Public Declare Sub VB_M_ReplaceMissingByVal Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal ival As Double)
+  Public Declare Sub VB_M_ReplaceMissingByStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal ival As Long)
   Public Declare Sub VB_M_RemoveCol Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iCol As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_RemoveRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iRow As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_MoveRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal iRow As Long, ByVal iNewPos As Long)
   Public Declare Sub VB_M_MinMax Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef VMin As Double, ByRef VMax As Double, ByRef iMissing As Boolean, ByVal MissingPerCol As Boolean)
+  Public Declare Sub VB_M_AllMissingRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef missing As Boolean, ByRef AllMissing As Boolean)
+  Public Declare Sub VB_M_AllMissingRowsStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByRef missing As Boolean, ByRef AllMissing As Boolean)
+  Public Declare Sub VB_M_NbMissing Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef NbMissing As Long)
+  Public Declare Sub VB_M_NbMissingStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByRef NbMissing As Long)
+  Public Declare Sub VB_M_NbNonMissing Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef NbNonMissing As Long)
   Public Declare Sub VB_M_Sums1As2B Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal s1 As Double, ByVal S2 As Double, ByRef oCMat As Double)
   Public Declare Sub VB_M_ProductVB Lib "KAVORATB1C.dll" (ByRef iAVec As Double, ByVal n As Long, ByRef iBMat As Double, ByVal p As Long, ByRef oCVec As Double)
   Public Declare Sub VB_M_ProductTrAB Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iBMat As Double, ByVal m As Long, ByRef oCMat As Double)
@@ -429,6 +473,7 @@ Option Explicit
   Public Declare Sub VB_M_LogMatrix Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean)
   Public Declare Sub VB_M_SumByCols Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
   Public Declare Sub VB_M_SumByRows Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oSums As Double)
+  Public Declare Function VB_M_IsDisjTable Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef missing As Boolean, ByRef oNbVar As Long) As Boolean
   Public Declare Sub VB_M_DuplicateDbl Lib "KAVORATB1C.dll" (ByRef iAMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
   Public Declare Sub VB_M_DuplicateStr Lib "KAVORATB1C.dll" (ByVal iAMat As Long, ByVal n As Long, ByVal p As Long, ByVal oMat As Long)
   Public Declare Sub VB_M_CopyResize Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal n2 As Long, ByVal p2 As Long)
@@ -444,9 +489,13 @@ Option Explicit
   Public Declare Sub VB_M_ProductHorizAB Lib "KAVORATB1C.dll" (ByRef iMat1 As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByRef oMat As Double, ByVal p As Long)
   Public Declare Sub VB_M_ProductHorizAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long)
   Public Declare Sub VB_M_ReplaceStrByCodes Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByRef NbCat As Long, ByVal Cat As Long, ByRef iMissing As Boolean, ByVal iCodeStart As Long, ByRef oMat As Double)
+  Public Declare Function VB_M_IsSymmetric Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long) As Boolean
+  Public Declare Function VB_M_IsDiagConstant Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long) As Boolean
   Public Declare Sub VB_M_Symmetrize Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iType As Long)
+  Public Declare Function VB_M_IsTriangular Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iUpdateT As Boolean) As Long
   Public Declare Function VB_M_CheckIfSimOrDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal iApriori As Long) As Long
   Public Declare Sub VB_M_TransformSimToDissim Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long)
+  Public Declare Sub VB_M_SetWeightsToZeroForMissing Lib "KAVORATB1C.dll" (ByRef t As Double, ByVal n As Long, ByVal p As Long, ByRef w As Double, ByVal pW As Long)
   Public Declare Function VB_M_InverseTriang Lib "KAVORATB1C.dll" (ByRef iTriangMat As Double, ByVal n As Long, ByVal iIsLower As Boolean, ByRef oInvMat As Double, ByVal Eps As Double) As Long
   Public Declare Sub VB_M_SVDecomp Lib "KAVORATB1C.dll" (ByRef X As Double, ByVal n As Long, ByVal p As Long, ByRef s As Double, ByRef u As Double, ByVal ldu As Long, ByRef v As Double, ByVal ldv As Long, ByVal job As Long, ByRef info As Long)
   Public Declare Sub VB_M_Center Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double)
@@ -474,9 +523,15 @@ Option Explicit
   Public Declare Sub VB_M_Max Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMaxVect As Double)
   Public Declare Function VB_M_CholDecompCleaned Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal p As Long, ByRef iConstraints As Long, ByRef oMat As Double) As Long
   Public Declare Sub VB_M_CorrMatFromCovMat Lib "KAVORATB1C.dll" (ByRef iCovMat As Double, ByVal p As Long, ByRef oCorrMat As Double)
+  Public Declare Function VB_M_IsIn01 Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long) As Boolean
   Public Declare Sub VB_M_PasteBlock Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef ioMat As Double, ByVal n2 As Long, ByVal p2 As Long, ByVal nStart As Long, ByVal pStart As Long)
   Public Declare Function VB_M_ProductTrV1BV2 Lib "KAVORATB1C.dll" (ByRef iVect1 As Double, ByVal n As Long, ByRef iBMat As Double, ByRef iVect2 As Double) As Double
   Public Declare Sub VB_M_CopyToBigger Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByRef oMat As Double, ByVal nOut As Long, ByVal pOut As Long)
+  Public Declare Sub VB_M_SamplingRandomStratified Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal SampleSize As Long, ByVal oMat As Long, ByRef idx As Double, ByRef ioSeed As Long, ByVal iSeedInit As Boolean, ByRef oSeed As Long)
+  Public Declare Sub VB_M_SamplingSystematicCentered Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal SampleSize As Long, ByVal oMat As Long, ByRef idx As Double)
+  Public Declare Sub VB_M_SamplingSystematicRdStart Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal SampleSize As Long, ByVal oMat As Long, ByRef idx As Double, ByRef ioSeed As Long, ByVal iSeedInit As Boolean, ByRef oSeed As Long)
+  Public Declare Sub VB_M_SampleUserDefined Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal oMat As Long, ByRef idx As Double)
+  Public Declare Sub VB_M_SamplingWithReplacement Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal p As Long, ByVal SampleSize As Long, ByVal oMat As Long, ByRef idx As Double, ByRef ioSeed As Long, ByVal iSeedInit As Boolean, ByRef oSeed As Long)
   Public Declare Sub VB_M_ProductDesignAB2 Lib "KAVORATB1C.dll" (ByRef ioMat1 As Double, ByVal n As Long, ByRef iop1 As Long, ByRef iMat2 As Double, ByVal p2 As Long, ByVal iConstraintType As Long, ByRef w As Double, ByRef oInterFreqCat As Double)
   Public Declare Sub VB_M_Log10Matrix Lib "KAVORATB1C.dll" (ByRef ioMat As Double, ByVal n As Long, ByVal p As Long)
   Public Declare Sub VB_M_ProductDiagVA Lib "KAVORATB1C.dll" (ByRef iDiagVect As Double, ByVal n As Long, ByRef iMat As Double, ByVal p As Long, ByRef oMat As Double)
@@ -524,13 +579,26 @@ Option Explicit
   Public Declare Sub VB_CopyMatrixRowToMatrixRow Lib "KAVORATB1C.dll" (ByRef iMat As Double, ByVal n As Long, ByVal p As Long, ByVal [Line] As Long, ByRef ioMat As Double, ByVal n2 As Long, ByVal RowID As Long, ByVal iRedimMat As Boolean)
   Public Declare Sub VB_CopyMatrixColToOneColMatStr Lib "KAVORATB1C.dll" (ByVal iMat As Long, ByVal n As Long, ByVal iCol As Long, ByVal oVectMat As Long)
   Public Declare Sub VB_GenerateIndicator Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal iStart As Long, ByVal iEnd As Long)
+  Public Declare Sub VB_GenerateRandomIndicator Lib "KAVORATB1C.dll" (ByRef iVector As Double, ByVal n As Long, ByVal n1 As Long, ByRef ioSeed As Long, ByVal iSeedInit As Boolean, ByRef oSeed As Long)
   Public Declare Sub VB_VMergeVectorsBool2 Lib "KAVORATB1C.dll" (ByRef ioVect1 As Boolean, ByVal n1 As Long, ByRef iVect2 As Boolean, ByVal n2 As Long)
+  Public Declare Sub VB_SummarizeAllMissing Lib "KAVORATB1C.dll" (ByVal n As Long, ByRef AllMissingX As Boolean, ByRef AllMissingQ As Boolean, ByRef NbAllMissing As Long, ByRef AllMissing As Boolean)
   Public Declare Function VB_InitVectorToFalse Lib "KAVORATB1C.dll" (ByRef oVector As Boolean, ByVal n As Long) As Long
   Public Declare Function VB_IsMissingValueDbl Lib "KAVORATB1C.dll" (ByVal iValue As Double) As Boolean
   Public Declare Function VB_IsMissingValueStr Lib "KAVORATB1C.dll" (ByVal iValue As Long) As Boolean
+  Public Declare Sub VB_SummarizeMissing Lib "KAVORATB1C.dll" (ByVal n As Long, ByRef oNbMissing As Long, ByRef oMissing As Boolean, ByRef iMissing1 As Boolean, ByRef iMissing2 As Boolean, ByRef iMissing3 As Boolean)
+  Public Declare Sub VB_RemoveRowsWithMissing Lib "KAVORATB1C.dll" (ByRef ioTable As Double, ByVal n As Long, ByVal p As Long, ByVal NbMissing As Long, ByRef iMissing As Boolean, ByRef oTable As Double)
+  Public Declare Sub VB_RemoveRowsWithMissingStr Lib "KAVORATB1C.dll" (ByVal ioTable As Long, ByVal n As Long, ByVal p As Long, ByVal NbMissing As Long, ByRef iMissing As Boolean, ByVal oTable As Long)
+  Public Declare Sub VB_ReplaceMissingObsLabels Lib "KAVORATB1C.dll" (ByVal ioObsLabels As Long, ByVal n As Long, ByRef iMissingObs As Boolean, ByVal iPrefixe As Long)
+  Public Declare Sub VB_EstimateRowsWithMissingMean Lib "KAVORATB1C.dll" (ByRef ioTable As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double)
+  Public Declare Sub VB_EstimateRowsWithMissingMode Lib "KAVORATB1C.dll" (ByVal ioTable As Long, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double)
+  Public Declare Sub VB_EstimateRowsWithMissingNN Lib "KAVORATB1C.dll" (ByRef iTable1Dbl As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMissing As Boolean, ByRef iTable2Dbl As Double, ByVal p2 As Long, ByVal iTable3Str As Long, ByVal p3 As Long, ByRef w As Double)
+  Public Declare Sub VB_EstimateRowsWithMissingMeanPred Lib "KAVORATB1C.dll" (ByRef iTable As Double, ByVal nin As Long, ByRef ioTable As Double, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double)
+  Public Declare Sub VB_EstimateRowsWithMissingModePred Lib "KAVORATB1C.dll" (ByVal iTable As Long, ByVal nin As Long, ByVal ioTable As Long, ByVal n As Long, ByVal p As Long, ByRef iMissing As Boolean, ByRef w As Double)
+  Public Declare Sub VB_EstimateRowsWithMissingNNPred Lib "KAVORATB1C.dll" (ByRef iiTable1Dbl As Double, ByVal nin As Long, ByRef iTable1Dbl As Double, ByVal n As Long, ByVal p1 As Long, ByRef iMissing As Boolean, ByRef iiTable2Dbl As Double, ByRef iTable2Dbl As Double, ByVal p2 As Long, ByVal iiTable3Str As Long, ByVal iTable3Str As Long, ByVal p3 As Long, ByRef w As Double)
   Public Declare Function VB_CorrelPearson Lib "KAVORATB1C.dll" (ByRef iVector1 As Double, ByRef iVector2 As Double, ByVal n As Long, ByRef iMissing As Boolean, ByRef w As Double, ByVal Unbiased As Boolean, ByVal BiasIsOne As Boolean) As Double
   Public Declare Function VB_MAPE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByRef YPred As Double, ByVal n As Long, ByRef w As Double, ByVal binf As Long) As Double
   Public Declare Function VB_RMSE Lib "KAVORATB1C.dll" (ByRef Y As Double, ByVal nY As Long, ByVal p As Long, ByRef PredY As Double, ByVal DF As Long) As Double
+  Public Declare Sub VB_ComputeNewVar Lib "KAVORATB1C.dll" (ByRef LCombines As Double, ByVal n As Long, ByVal p As Long, ByRef VarCov As Double, ByRef NewVarVect As Double, ByRef NewVarCov As Double)
   Public Declare Sub VB_FilterEigen Lib "KAVORATB1C.dll" (ByRef iEigenValues As Double, ByVal p As Long, ByVal iDoFilter As Boolean, ByVal iFilter As Double, ByVal iMinPerc As Double, ByVal iMaxFact As Long, ByVal iMaxVal As Double, ByRef oNbEigen As Long, ByRef oDispEigen As Long, ByRef Percent As Double)
   Public Declare Function RunOLSBasic Lib "KAVORATB1C.dll" (ByVal n As Long, ByVal p As Long, ByRef X As Double, ByRef Y As Double, ByRef w As Double, ByVal iPolyDegree As Long, ByVal iInteract2 As Boolean, ByVal iFixedIntercept As Boolean, ByVal iTolerance As Double, ByRef oCoeffs As Double, ByRef oPredY As Double) As Long
   Public Declare Function RunOLSBasic2 Lib "KAVORATB1C.dll" (ByVal n As Long, ByVal p As Long, ByRef X As Double, ByRef Y As Double, ByRef w As Double, ByVal iPolyDegree As Long, ByVal iInteract2 As Boolean, ByVal iFixedIntercept As Boolean, ByVal iTolerance As Double, ByRef oCoeffs As Double, ByRef oStDevCoeffs As Double, ByRef oPredY As Double) As Long

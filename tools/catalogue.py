@@ -2,13 +2,12 @@
 """Derives from src/bridge/KAVORATB1C.idl everything that tells of entries.
 
     tools/catalogue.py write                    writes the derived files
-    tools/catalogue.py check                    fails when a committed derived file differs
+    tools/catalogue.py check                    fails when a committed derived file differs or the manual lacks
+                                                something
     tools/catalogue.py natives OBJECT ...       gives new native exports their ordinals
                                                 (objects of a 32-bit Windows build)
     tools/catalogue.py exports DLL              fails when the DLL's exports are not exactly those listed
     tools/catalogue.py stamp TYPELIB            takes the build time out of a compiled type library
-
-Entries listed in src/bridge/unbuilt.txt have no worker yet: the type library declares them, nothing else does.
 """
 
 import re
@@ -23,7 +22,6 @@ import manual
 ROOT = Path(__file__).resolve().parent.parent
 BRIDGE = ROOT / "src" / "bridge"
 IDL = BRIDGE / "KAVORATB1C.idl"
-UNBUILT = BRIDGE / "unbuilt.txt"
 NATIVES = BRIDGE / "native_exports.txt"
 GENERATED = BRIDGE / "generated"
 REFERENCE = ROOT / "docs" / "reference"
@@ -53,7 +51,6 @@ class Entry:
     result: str
     help: str
     group: str
-    built: bool
     parameters: list = field(default_factory=list)
 
     def prototype(self):
@@ -92,14 +89,13 @@ def read_names(path):
 
 def read_catalogue():
     text = IDL.read_text(encoding="ascii")
-    unbuilt = set(read_names(UNBUILT))
     entries, group = [], None
     for match in TOKENS.finditer(text):
         if match["group"]:
             group = match["group"]
             continue
         name = match["name"]
-        entry = Entry(int(match["ordinal"]), name, match["result"], match["help"], group, name not in unbuilt)
+        entry = Entry(int(match["ordinal"]), name, match["result"], match["help"], group)
         entry.parameters = read_parameters(match["parameters"], name)
         entries.append(entry)
     if len(entries) != text.count("[entry("):
@@ -107,9 +103,6 @@ def read_catalogue():
     for position, entry in enumerate(entries, 1):
         if entry.ordinal != position:
             sys.exit(f"{entry.name}: ordinal {entry.ordinal} at position {position}")
-    unknown = unbuilt - {entry.name for entry in entries}
-    if unknown:
-        sys.exit(f"unbuilt.txt names no entry of the catalogue: {', '.join(sorted(unknown))}")
     return entries
 
 
@@ -143,7 +136,6 @@ def entries_header(entries):
         + "\n"
         + signature(f"{e.result} {e.name}", [p.cpp() for p in e.parameters], ";")
         for e in entries
-        if e.built
     )
     return f"""// The bodies behind the macro entries. {DERIVED}
 // A body is defined under its qualified name, so one that differs from the catalogue does not compile.
@@ -165,7 +157,7 @@ def thunks(entries):
         head = signature(f"KAV_ENTRY {e.result} KAV_CALL {e.name}", [p.cpp() for p in e.parameters], " noexcept {")
         return f"{head}\n  return guarded<{e.result}>([&] {{ return {call}; }});\n}}"
 
-    bodies = "\n\n".join(thunk(e) for e in entries if e.built)
+    bodies = "\n\n".join(thunk(e) for e in entries)
     return f"""// What the DLL exports to macros: each body behind its calling convention and its guard.
 // {DERIVED}
 
@@ -186,13 +178,13 @@ extern "C" {{
 
 def windows_exports(entries, natives, entry_name):
     lines = [f"; {DERIVED}", "EXPORTS"]
-    lines += [f"  {entry_name(e)} @{e.ordinal}" for e in entries if e.built]
+    lines += [f"  {entry_name(e)} @{e.ordinal}" for e in entries]
     lines += [f"  {name} @{ordinal}" for ordinal, name in natives]
     return "\n".join(lines) + "\n"
 
 
 def linux_exports(entries, natives):
-    names = [e.name for e in entries if e.built] + [name for _, name in natives]
+    names = [e.name for e in entries] + [name for _, name in natives]
     return f"/* {DERIVED} */\n{{\n  global:\n" + "".join(f"    {n};\n" for n in names) + "  local:\n    *;\n};\n"
 
 
@@ -202,15 +194,14 @@ def tests_table(entries):
             f'\n         {{"{p.name}", "{p.type}{"*" if p.by_reference else ""}", "{p.direction}"}},'
             for p in e.parameters
         )
-        built = "true" if e.built else "false"
-        return f'    {{{e.ordinal},\n     "{e.name}",\n     "{e.result}",\n     {built},\n     {{{parameters}\n     }}}},'
+        return f'    {{{e.ordinal},\n     "{e.name}",\n     "{e.result}",\n     {{{parameters}\n     }}}},'
 
     return f"// {DERIVED}\n// clang-format off\n" + "\n".join(row(e) for e in entries) + "\n"
 
 
 def test_prototypes(entries):
     lines = "\n".join(f"{e.result} KAV_MACRO_CALL {e.name}({', '.join(p.cpp() for p in e.parameters)});"
-                      for e in entries if e.built)
+                      for e in entries)
     return f"""// The entries as a program calls them. {DERIVED}
 // clang-format off
 #pragma once
@@ -230,7 +221,7 @@ def test_calls(entries):
             for p in e.parameters)
         return f'    {{"{e.name}", entryOf(&{e.name}, {{{parameters}}})}},'
 
-    return f"// {DERIVED}\n// clang-format off\n" + "\n".join(row(e) for e in entries if e.built) + "\n"
+    return f"// {DERIVED}\n// clang-format off\n" + "\n".join(row(e) for e in entries) + "\n"
 
 
 # ---- for macro authors ----
@@ -257,7 +248,7 @@ def basic_declaration(entry, pointer, safe):
 
 def basic_module(entries):
     def declarations(pointer, safe):
-        return "\n".join("  " + basic_declaration(e, pointer, safe) for e in entries if e.built)
+        return "\n".join("  " + basic_declaration(e, pointer, safe) for e in entries)
 
     return f"""Attribute VB_Name = "KAVORATB1C"
 ' Declarations for hosts that do not read the DLL's type library.
@@ -324,6 +315,9 @@ def write():
 
 
 def check():
+    lacking = [*manual.faults(manual.pages(read_catalogue(), REFERENCE, BRIDGE)), *manual.dead_links(REFERENCE.parent)]
+    if lacking:
+        sys.exit("\n".join(lacking))
     stale = [p for p, text in derived_files().items() if not p.exists() or p.read_text() != text]
     if stale:
         names = ", ".join(str(p.relative_to(ROOT)) for p in stale)
@@ -359,13 +353,13 @@ def give_ordinals(objects):
 
 
 def check_exports(dll):
-    """The export table as objdump prints it, against entries that are built and native exports."""
+    """The export table as objdump prints it, against entries and native exports."""
     dump = subprocess.run(["objdump", "-p", dll], capture_output=True, text=True, check=True).stdout
     table = dump[dump.index("[Ordinal/Name Pointer] Table"):]
     base = int(re.search(r"Ordinal Base\s+(\d+)", dump)[1])
     rows = re.findall(r"^\s*\[\s*(\d+)\]\s+(?:\+base\[\s*\d+\]\s+\w+\s+)?(\S+)$", table, re.M)
     found = {(base + int(ordinal), name) for ordinal, name in rows}
-    listed = {(e.ordinal, e.name) for e in read_catalogue() if e.built} | set(read_natives())
+    listed = {(e.ordinal, e.name) for e in read_catalogue()} | set(read_natives())
     if found != listed:
         extra, lacking = sorted(found - listed), sorted(listed - found)
         sys.exit(f"{dll}: exports that are not listed: {extra[:5]}; listed and not exported: {lacking[:5]}")

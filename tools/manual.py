@@ -8,6 +8,7 @@ a section gets one at the end of its family's page: the page of the file in src/
 import re
 from pathlib import Path
 
+LINK = re.compile(r"\]\(([^)#:\s]*)(?:#([\w-]+))?\)")
 HEADING = re.compile(r"^### (\w+)$", re.M)
 ROW = re.compile(r"^\| `(\w+)` \| [^|]* \|(.*)\|$", re.M)
 TYPES = {"double": "Double", "int": "Long", "VARIANT_BOOL": "Boolean", "BSTR": "String"}
@@ -88,7 +89,7 @@ def pages(entries, folder, bridge):
         result[path] = "".join(out)
     family = families(bridge)
     for entry in entries:
-        if entry.name in placed or not entry.built:
+        if entry.name in placed:
             continue
         path = folder / family[entry.name]
         before = result.get(path, f"# {path.stem}\n")
@@ -149,3 +150,18 @@ def faults(texts):
                 yield f"{path.name}: {name} does not say what {', '.join(lacking)} hold"
             if "```example\n" not in text_below:
                 yield f"{path.name}: {name} has no example"
+
+
+def anchors(text):
+    """The headings of a page as links name them."""
+    headings = re.findall(r"^#+ (.+)$", text, re.M)
+    return {re.sub(r"[^\w -]", "", heading).strip().lower().replace(" ", "-") for heading in headings}
+
+
+def dead_links(folder):
+    """Links of the pages below a folder that lead nowhere."""
+    for path in sorted(folder.rglob("*.md")):
+        for target, anchor in LINK.findall(path.read_text()):
+            to = (path.parent / target).resolve() if target else path
+            if not to.exists() or (anchor and anchor not in anchors(to.read_text())):
+                yield f"{path.name}: no {target}{'#' + anchor if anchor else ''}"

@@ -47,6 +47,12 @@ Strings::Strings(std::initializer_list<std::wstring_view> texts) {
   }
 }
 
+Strings::Strings(const std::vector<std::string>& texts) {
+  for (const std::string& text : texts) {
+    slots_.push_back(SysAllocString(std::wstring(text.begin(), text.end()).c_str()));
+  }
+}
+
 Strings::~Strings() { std::for_each(slots_.begin(), slots_.end(), SysFreeString); }
 
 std::wstring Strings::operator[](std::size_t k) const {

@@ -43,6 +43,7 @@ class Strings {
  public:
   explicit Strings(std::size_t count) : slots_(count, nullptr) {}
   Strings(std::initializer_list<std::wstring_view> texts);
+  explicit Strings(const std::vector<std::string>& texts);
   Strings(const Strings&) = delete;
   ~Strings();
 

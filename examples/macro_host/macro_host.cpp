@@ -1,7 +1,8 @@
 // The main job, as a macro would do it on real data: sums and means beside the exact ones, a descriptive
 // table of weighted data with missing cells, the mode of labels, ranks with ties, a table sorted by a key,
 // correlations with missing cells, a standardized table, an inverse checked by its product, principal
-// components, a logistic regression, a linear one beside its certified values.
+// components, a logistic regression, a linear one beside its certified values, missing cells before and after
+// each estimate, a sample drawn twice from one seed.
 //
 //     macro_host FOLDER    with the folder of the CSV files; a column named "weight" holds row weights
 
@@ -13,6 +14,7 @@
 
 #include "csv_table.h"
 #include "macro_engine.h"
+#include "missing_data.h"
 #include "principal_components.h"
 #include "regression.h"
 
@@ -112,11 +114,7 @@ void printQuartiles(const macro::Module& dll, const std::string& path) {
 /// The label with the largest weight.
 void printModes(const macro::Module& dll, const std::string& path) {
   const CsvTable table(path);
-  macro::Strings tension(table.labels("tension").size());
-  for (std::size_t i = 0; i < table.labels("tension").size(); ++i) {
-    const std::string& label = table.labels("tension")[i];
-    tension.data()[i] = SysAllocString(std::wstring(label.begin(), label.end()).c_str());
-  }
+  macro::Strings tension(table.labels("tension"));
   const int rows = table.rows();
   Doubles breaks = table.numbers("breaks");
   Flags none(breaks.size());
@@ -225,9 +223,13 @@ int main(int argc, char** argv) {
     const bool converged = printLogisticRegression(dll, folder);
     std::printf("\n");
     const bool regressed = printLinearRegression(dll, folder);
+    std::printf("\n");
+    const bool filled = printEstimates(dll, folder);
+    std::printf("\n");
+    const bool repeated = printSamples(dll, folder);
     std::printf("\n%s\n", complete && missing ? "All means agree with the exact ones."
                                               : "Some means differ from the exact ones.");
-    return complete && missing && inverted && found && converged && regressed ? 0 : 1;
+    return complete && missing && inverted && found && converged && regressed && filled && repeated ? 0 : 1;
   } catch (const std::exception& problem) {
     std::fprintf(stderr, "macro_host: %s\n", problem.what());
     return 2;

@@ -46,8 +46,7 @@ KAV_API void M_Min(const matrix* a, int n, int p, matrix* w);
 /// Both extremes of each column (caller's, p cells each); the marker where no cell is used.
 ///
 /// @param exclude  n flags, required when option is 0
-/// @param option   0 leaves out the rows with a flag; -1 leaves out missing cells instead; with any other
-/// value no
-///                 cell is used
+/// @param option   0 leaves out the rows with a flag, and missing cells count by their values; -1 leaves out
+///                 missing cells instead; with any other value no cell is used
 KAV_API void M_MinMax(const matrix* a, int n, int p, matrix* min, matrix* max, const short* exclude,
                       short option);

@@ -58,7 +58,7 @@ KAV_API void M_ProductDiagV1ADiagV2(const matrix* x, int n, const matrix* a, int
 KAV_API void M_ProductABTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c);
 KAV_API void M_ProductTrABA(const matrix* a, int n, int p, const matrix* b, matrix*& c);
 
-/// The same with the inverse of B (matrix::inverse1, tolerance 1e-12 and 2.220446049250313e-16); that of a
+/// The same with the inverse of B (matrix::inverse1, which takes pivots up to 1e-8 for zero); that of a
 /// singular B counts as zeros.
 KAV_API void M_ProductAinvBTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c);
 KAV_API void M_ProductTrAinvBA(const matrix* a, int n, int p, const matrix* b, matrix*& c);
@@ -83,7 +83,7 @@ KAV_API double M_FrobeniusNorm(const matrix* a, int n, int p, const matrix* b);
 KAV_API void M_ProductHorizAB(const matrix* a, int n, int p, const matrix* b, int q, matrix* c);
 
 /// The same in place of A: its container is kept when its shape is n x pq, otherwise the pointer receives a
-/// new one; *p becomes pq. Throws std::bad_alloc beyond the columns that a table can have.
+/// new one; *p becomes pq. Extents below 1 change nothing. Throws std::bad_alloc beyond the columns that a table can have.
 KAV_API void M_ProductHorizAB2(matrix*& a, int n, int* p, const matrix* b, int q);
 
 /// Interaction of two coded blocks, in place of A as M_ProductHorizAB2: a product with a factor of exactly

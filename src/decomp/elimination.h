@@ -36,12 +36,13 @@ KAV_API int M_Sweep(matrix* s, int q, int k);
 ///
 /// @param tolerance  singular values from the first one below it on count as 0.0
 /// @param rank       how many count; NaN does
-/// @return 0; -1 when the singular values fail, g untouched
+/// @return 0; -1 on a negative status of the singular values, which there is none of
 KAV_API int M_InvGeneralized(const matrix* a, int n, matrix* g, double tolerance, int& rank);
 
 /// Inverts the variables that are not excluded; the others have rows and columns of 0.0 (prepared, n x n).
 ///
-/// A single variable is inverted as a number, 0.0 to 1e12; more by matrix::inverse1 at 1e-12.
+/// A single variable is inverted as a number, 0.0 to 1e12; more by matrix::inverse1, which
+/// takes pivots up to 1e-8 for zero.
 ///
 /// @param excluded  n cells: 0.0 kept, above 0.0 excluded. A negative cell is neither, so that the last rows
 ///                  of the smaller table are 0.0: pass none.

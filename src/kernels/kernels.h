@@ -155,6 +155,18 @@ struct ColumnUpdate {
   double* sums;                  ///< one for each row; goes on, columns in ascending order
 };
 
+/// One row and others, for their heterogeneous Euclidean-overlap distances: see
+/// missing/nearest_neighbours.h.
+struct Distances {
+  const double* rows;  ///< cell (i, j) of the others at rows[i + stride * j]; NaN where one is missing
+  std::ptrdiff_t stride;
+  std::ptrdiff_t columns;
+  const double* row;     ///< one cell a column, likewise
+  const double* ranges;  ///< one a column; where it is not above 0.0 cells are only equal or different
+  double bound;
+  double* squared;  ///< out
+};
+
 /// The kernels for one instruction set.
 struct Table {
   const char* name;
@@ -201,6 +213,13 @@ struct Table {
   void (*updateColumns)(const ColumnUpdate& update);
 
   void (*sweep)(const Sweep& sweep);
+
+  /// Rows that the next one goes on with side by side, a lane each.
+  int distanceLanes;
+
+  /// Squared distances of a row to that many others, the terms added in the order of the columns.
+  /// @return false as soon as none of them is below the bound; then they are not known to their end
+  bool (*distances)(const Distances& distances);
 };
 
 /// Those that this processor and system can run, the plainest first, and how many they are.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -10,6 +9,7 @@
 
 #include "core/results.h"
 #include "platform/scalar.h"
+#include "stats/label_totals.h"
 #include "stats/usable.h"
 
 using usable::labelAt;
@@ -27,12 +27,10 @@ double frequency(int n, const matrix* w, Equals equals) {
   return sum;
 }
 
-std::vector<std::u16string_view> distinctLabels(const Smatrix* labels, int n) {
+std::unordered_set<std::u16string_view> distinctLabels(const Smatrix* labels, int n) {
   std::unordered_set<std::u16string_view> seen;
   for (int i = 0; i < n; ++i) seen.insert(labelAt(labels, i));
-  std::vector<std::u16string_view> sorted(seen.begin(), seen.end());
-  std::sort(sorted.begin(), sorted.end());
-  return sorted;
+  return seen;
 }
 
 std::u16string numbered(std::u16string_view label, int number) {
@@ -61,28 +59,18 @@ double V_FreqStr(const Smatrix* labels, int n, const matrix* w, const std::u16st
 
 std::u16string V_Mode(const Smatrix* labels, int n, const short* exclude, const matrix* w) {
   const block::Values weights(w, n);
-  std::unordered_map<std::u16string_view, double> totals;
-  usable::forEach(n, usable::NotExcludedIfGiven(exclude), [&](int i) {
-    const std::u16string_view label = labelAt(labels, i);
-    if (!label.empty()) totals[label] += weights[i];
-  });
-  std::u16string_view mode;
-  double most = 0.0;
-  for (const auto& [label, total] : totals) {
-    const double weight = std::isnan(total) ? -std::numeric_limits<double>::infinity() : total;
-    if (mode.empty() || weight > most || (weight == most && label < mode)) {
-      mode = label;
-      most = weight;
-    }
-  }
-  return std::u16string(mode);
+  LabelTotals totals;
+  usable::forEach(n, usable::NotExcludedIfGiven(exclude),
+                  [&](int i) { totals.add(labelAt(labels, i), weights[i]); });
+  return std::u16string(totals.mode().text);
 }
 
 int V_NbDistinct(const Smatrix* labels, int n) { return static_cast<int>(distinctLabels(labels, n).size()); }
 
 void V_ExtractDistinct(const Smatrix* labels, int n, Smatrix*& out, int* count) {
-  const std::vector<std::u16string_view> distinct = distinctLabels(labels, n);
+  const std::unordered_set<std::u16string_view> distinct = distinctLabels(labels, n);
   std::vector<std::u16string> copies(distinct.begin(), distinct.end());
+  std::sort(copies.begin(), copies.end());
   const auto size = static_cast<int>(copies.size());
   Smatrix::matCheck(out, size, 1);
   std::move(copies.begin(), copies.end(), out->cells);

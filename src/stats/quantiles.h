@@ -1,6 +1,7 @@
 // Quantiles of a vector. Vectors as in vector_sums.h.
 //
-// p is a fraction: below 0 it counts as 0, above 1 as 1; NaN gives NaN. The marker is the lowest of numbers.
+// p is a fraction: below 0 it counts as 0, above 1 as 1; NaN gives NaN. The marker is the lowest of numbers
+// but for -infinity.
 // Without weights cells are in the order of SortQVector, NaN last; with weights in that of SortQ. Without
 // weights the quantile interpolates between order statistics
 // (Hyndman and Fan 1996, The American Statistician 50, 361-365, type 7):

@@ -7,6 +7,7 @@
 #include "core/range.h"
 #include "core/screening.h"
 #include "stats/usable.h"
+#include "stats/weighted_mean.h"
 
 namespace {
 
@@ -32,13 +33,9 @@ double meanOf(const matrix* x, int n, const short* exclude, const matrix* w, Tra
   if (!usable::given(n, exclude, w)) return kMissing;
   const usable::Cells cells(x, n);
   const block::Values weights(w, n);
-  double sum = 0.0;
-  double total = 0.0;
-  usable::forEach(n, usable::PresentAndWeighted(cells, exclude, weights), [&](int i) {
-    total += weights[i];
-    sum += transform(cells[i]) * weights[i];
-  });
-  return sum / total;
+  return weightedMean(
+      n, usable::PresentAndWeighted(cells, exclude, weights), [&](int i) { return transform(cells[i]); },
+      [&](int i) { return weights[i]; });
 }
 
 /// Calls visit(x[i]) for the cells whose criterion cell equals value, both present.

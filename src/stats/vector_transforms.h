@@ -56,6 +56,6 @@ KAV_API void V_ProductV1TrV2(const matrix* x, int n, const matrix* y, matrix*& o
 /// @param p    room in out: it receives the first p cells when there are more
 KAV_API void V_ProductHorizV1V2(const matrix* x, int p1, const matrix* y, int p2, matrix*& out, int p);
 
-/// The same in place of x; *p1 becomes p1 * p2. A null p1 changes nothing. Throws std::bad_alloc when there
-/// would be more cells than a vector can have.
+/// The same in place of x; *p1 becomes p1 * p2. A null p1, or sizes below 1, change nothing. Throws
+/// std::bad_alloc when there would be more cells than a vector can have.
 KAV_API void V_ProductHorizV1V22(matrix*& x, int* p1, const matrix* y, int p2);

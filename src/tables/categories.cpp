@@ -1,53 +1,16 @@
 #include "tables/categories.h"
 
 #include <algorithm>
-#include <string_view>
-#include <unordered_map>
-#include <vector>
 
 #include "algebra/result_blocks.h"
 #include "core/block.h"
 #include "stats/usable.h"
+#include "tables/category_lists.h"
 #include "tables/texts.h"
 
-namespace {
-
-constexpr int kUnknown = -1;
-
-/// The categories of one column.
-class Categories {
- public:
-  /// @param begin  of the column's, in the list of all
-  Categories(const Smatrix* all, std::int64_t begin, int count) {
-    for (int k = 0; k < count; ++k)
-      positions_.emplace(usable::labelAt(all, static_cast<std::ptrdiff_t>(begin + k)), k);
-  }
-
-  /// 0-based; of equal categories the first.
-  int positionOf(std::u16string_view label) const {
-    const auto found = label.empty() ? positions_.end() : positions_.find(label);
-    return found == positions_.end() ? kUnknown : found->second;
-  }
-
- private:
-  std::unordered_map<std::u16string_view, int> positions_;
-};
-
-/// visit(j, count, categories) for each column.
-template <class Visit>
-void forEachColumn(int p, const int* counts, const Smatrix* all, Visit visit) {
-  std::int64_t begin = 0;
-  for (int j = 0; j < p; ++j) {
-    const int count = counts == nullptr ? 0 : std::max(counts[j], 0);
-    // No more than there are: a count may be anything.
-    const std::int64_t left =
-        all == nullptr ? 0 : addressing::cellCount(*all) - std::min(begin, addressing::cellCount(*all));
-    visit(j, count, Categories(all, begin, static_cast<int>(std::min<std::int64_t>(count, left))));
-    begin += count;
-  }
-}
-
-}  // namespace
+using categories::Categories;
+using categories::forEachColumn;
+using categories::kUnknown;
 
 void M_ReplaceCatByCodes(const Smatrix* labels, int n, int p, const int* counts, const Smatrix* categories,
                          matrix*& codes) {

@@ -169,3 +169,31 @@ TEST(Kernels, BackSubstitutionsEqualTheirDefinitionBitForBit) {
     });
   }
 }
+
+// Cells that are often equal; bounds are distances themselves or close to them.
+TEST(Kernels, DistancesEqualTheirDefinitionBitForBit) {
+  Random random(46);
+  for (int round = 0; round < 1300; ++round) {
+    forEachTable([&](const kernels::Table& kernel) {
+      const int columns = 1 + round % 13, lanes = kernel.distanceLanes, stride = lanes + random.below(3);
+      const double few[] = {0.0, -1.0, std::nan(""), 0.3, 7.0, HUGE_VAL};
+      const auto cell = [&] { return random.below(20) < round % 13 ? few[2] : random.below(4) / 0.7; };
+      Cells rows, row, ranges, expected(lanes + 1, 0.0), squared(lanes + 1, 0.0);
+      for (int k = 0; k < stride * columns; ++k) rows.push_back(cell());
+      for (int j = 0; j < columns; ++j) row.push_back(cell()), ranges.push_back(few[random.below(6)]);
+      for (int k = 0; k < lanes * columns; ++k) {
+        const int lane = k % lanes, j = k / lanes;
+        const double x = row[j], y = rows[lane + stride * j];
+        const double d = ranges[j] > 0.0 ? (x - y) / ranges[j] : x == y ? 0.0 : 1.0;
+        expected[lane] += std::isnan(d) ? 1.0 : d * d;
+      }
+      const double least = *std::min_element(expected.begin(), expected.end() - 1);
+      const double bounds[] = {least, std::nextafter(least, 1e9), expected[0], HUGE_VAL, 0.0, least / 2.0};
+      const double bound = bounds[random.below(6)];
+      const bool known =
+          kernel.distances({&rows[0], stride, columns, &row[0], &ranges[0], bound, &squared[0]});
+      EXPECT_EQ(known, least < bound) << columns;
+      EXPECT_TRUE(bits::equal(known ? squared : expected, expected)) << columns;
+    });
+  }
+}

@@ -52,7 +52,7 @@ Entry entryOf(R(KAV_MACRO_CALL* entry)(P...), std::vector<Parameter> parameters)
           }};
 }
 
-/// Every entry that is built.
+/// Every entry.
 const std::map<std::string, Entry>& entries();
 
 }  // namespace manual

@@ -45,6 +45,13 @@ TEST(Manual, EveryNumberIsWhatTheLibraryGives) {
   }
 }
 
+TEST(Manual, EveryEntryIsShownWithAResult) {
+  std::set<std::string> shown;
+  for (const std::string& page : pages()) shown.merge(outcomeOf(page).shown);
+  ASSERT_EQ(manual::entries().size(), 297u);
+  for (const auto& [name, entry] : manual::entries()) EXPECT_EQ(shown.count(name), 1u) << name;
+}
+
 TEST(Manual, ExamplesThatAreRightPass) {
   const manual::Outcome outcome = manual::runExamples(
       "text\n" + example("x = {12.5, missing, 11, 14.25}\n"

@@ -16,6 +16,8 @@
 #include "decomp/logarithms.h"
 #include "decomp/singular_values.h"
 #include "decomp/triangular.h"
+#include "missing/estimates.h"
+#include "missing/nearest_neighbours.h"
 #include "sort/sorts.h"
 #include "stats/other_means.h"
 #include "stats/quantiles.h"
@@ -24,6 +26,7 @@
 #include "stats/vector_moments.h"
 #include "stats/vector_sums.h"
 #include "stats/vector_transforms.h"
+#include "support/tables.h"
 #include "tables/copies.h"
 
 namespace {
@@ -145,6 +148,22 @@ std::uint64_t hashOfDecompositions(const matrix& kept) {
   return hash.value();
 }
 
+/// Estimates of missing cells; of labels that differ in their lengths.
+std::uint64_t hashOfMissing(const matrix& table, const matrix& kept, const matrix& w, const short* exclude) {
+  BitHash hash;
+  const auto means = copyOf(table), numbers = copyOf(table), others = copyOf(kept);
+  Smatrix labels(kRows, 3), modes(kRows, 3);
+  Random random(4);
+  for (int k = 0; k < 3 * kRows; ++k) labels.cells[k].assign(std::max(random.below(40) - 9, 0), u'x');
+  EstimateRowsWithMissingMean(means.get(), kRows, kColumns, exclude, &w);
+  EstimateRowsWithMissingModePred(&labels, kRows, &modes, kRows, 3, exclude, &w);
+  EstimateRowsWithMissingNN(numbers.get(), kRows, 5, exclude, others.get(), 3, &labels, 3, &w);
+  for (const Smatrix* texts : {&modes, &labels}) {
+    for (int k = 0; k < 3 * kRows; ++k) hash.add(static_cast<double>(texts->cells[k].size()));
+  }
+  return hash.add(*means).add(*numbers).add(*others).value();
+}
+
 Hashes hashesOfCorpus() {
   const std::vector<double> cells = corpusCells(1, kRows * kColumns), weightCells = corpusCells(2, kRows);
   const matrix table(kRows, kColumns, cells.data(), false, 0, 0),
@@ -167,6 +186,7 @@ Hashes hashesOfCorpus() {
   hashes["algebra"] = hashOfAlgebra(table, kept, weights, exclude.data());
   hashes["decompositions"] = hashOfDecompositions(kept);
   hashes["statistics"] = hashOfStatistics(table, kept, weights, exclude.data());
+  hashes["missing"] = hashOfMissing(table, kept, weights, exclude.data());
   hashes["sorts"] = hashOfSorts(kept);
   matrix transposed(kColumns, kRows), stacked(kRows * kColumns, 1);
   table.transposeTo(&transposed);

@@ -123,27 +123,27 @@ void failOnce() { EXPECT_EQ(dll().integer(L"VB_V_SetToValue", {static_cast<doubl
 TEST(AllocationFailure, LeavesTheFailureValueAndTheArraysAsTheyWere) {
   failOnce();
   std::size_t failing = 0;
-  for (const macro::Procedure* procedure : builtEntries()) {
+  for (const macro::Procedure& procedure : entries()) {
     bool failed = false;
     for (const Extent extent : {Extent::Small, Extent::Large}) {
-      const AnyArguments arguments(*procedure, extent);
-      const VARIANT result = dll().call(*procedure, arguments.list());
-      const std::string success = resultText(*procedure, result) + arguments.arrayText();
+      const AnyArguments arguments(procedure, extent);
+      const VARIANT result = dll().call(procedure, arguments.list());
+      const std::string success = resultText(procedure, result) + arguments.arrayText();
 
       const CountedAllocations counted;
       for (const bool alone : {true, false}) {
         // Every one of the first, then some: tables of strings ask for a thousand.
         for (int k = 1;; k += 1 + k / 24) {
-          SCOPED_TRACE(plain(procedure->name) + ", allocation " + std::to_string(k) +
+          SCOPED_TRACE(plain(procedure.name) + ", allocation " + std::to_string(k) +
                        (alone ? " alone" : " and all after"));
-          if (callWithFailures(*procedure, extent, k, alone ? k : INT_MAX, success, failed) < k) break;
+          if (callWithFailures(procedure, extent, k, alone ? k : INT_MAX, success, failed) < k) break;
         }
       }
     }
     failing += failed ? 1 : 0;
   }
   // Arrays of which nothing is missing serve as they stand, so not every entry needs memory.
-  EXPECT_GT(failing, builtEntries().size() / 2);
+  EXPECT_GT(failing, entries().size() / 2);
 }
 
 TEST(AllocationFailure, DeterminantsTellItByTheirStatus) {

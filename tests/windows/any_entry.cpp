@@ -30,13 +30,7 @@ const macro::Module& dll() {
   return module;
 }
 
-std::vector<const macro::Procedure*> builtEntries() {
-  std::vector<const macro::Procedure*> built;
-  for (const macro::Procedure& procedure : dll().procedures()) {
-    if (dll().address(procedure) != nullptr) built.push_back(&procedure);
-  }
-  return built;
-}
+const std::vector<macro::Procedure>& entries() { return dll().procedures(); }
 
 std::string plain(std::wstring_view name) { return std::string(name.begin(), name.end()); }
 

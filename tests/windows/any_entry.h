@@ -12,8 +12,8 @@
 /// The DLL under test.
 const macro::Module& dll();
 
-/// The entries that the DLL exports.
-std::vector<const macro::Procedure*> builtEntries();
+/// The entries, as its type library declares them.
+const std::vector<macro::Procedure>& entries();
 
 /// A plain name, for messages.
 std::string plain(std::wstring_view name);

@@ -1,4 +1,4 @@
-// The calling convention of every built entry, seen from a stack that is watched: bytes removed, stack
+// The calling convention of every entry, seen from a stack that is watched: bytes removed, stack
 // pointer, saved registers, and stacks that are aligned to 4 bytes only.
 
 #include <gtest/gtest.h>
@@ -93,14 +93,14 @@ std::uint64_t callEntry(const macro::Procedure& procedure, const AnyArguments& a
 }  // namespace
 
 TEST(Calling, EveryEntryRemovesItsArgumentsAndWorksOnAnyStack) {
-  for (const macro::Procedure* procedure : builtEntries()) {
+  for (const macro::Procedure& procedure : entries()) {
     std::uint64_t expected = 0;
     std::string expectedArrays;
     for (std::uint32_t misalignment : {0u, 4u, 8u, 12u}) {
-      SCOPED_TRACE(plain(procedure->name) + ", stack off by " + std::to_string(misalignment));
-      const AnyArguments arguments(*procedure, Extent::Large);
+      SCOPED_TRACE(plain(procedure.name) + ", stack off by " + std::to_string(misalignment));
+      const AnyArguments arguments(procedure, Extent::Large);
       Watch watch{};
-      const std::uint64_t result = callEntry(*procedure, arguments, misalignment, &watch);
+      const std::uint64_t result = callEntry(procedure, arguments, misalignment, &watch);
       EXPECT_EQ(watch.stackAtCall % 16, (16 - misalignment) % 16);
       EXPECT_EQ(watch.stackAtReturn - watch.stackAtCall, arguments.stackWords().size() * 4);
       EXPECT_EQ(watch.registersKept, 1u);
@@ -108,7 +108,7 @@ TEST(Calling, EveryEntryRemovesItsArgumentsAndWorksOnAnyStack) {
         expected = result;
         expectedArrays = arguments.arrayText();
       }
-      if (procedure->result != VT_BSTR) {
+      if (procedure.result != VT_BSTR) {
         EXPECT_EQ(result, expected);
       }
       EXPECT_EQ(arguments.arrayText(), expectedArrays);

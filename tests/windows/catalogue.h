@@ -14,7 +14,6 @@ struct CatalogueEntry {
   int ordinal;
   std::string name;
   std::string result;
-  bool built;
   std::vector<CatalogueParameter> parameters;
 };
 

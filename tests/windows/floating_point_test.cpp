@@ -64,11 +64,11 @@ Outcome callAs(const ControlState& host, const macro::Procedure& procedure) {
 
 TEST(FloatingPoint, EveryEntryGivesTheSameBitsToEveryHost) {
   ASSERT_EQ(ControlState::current(), kDefault);
-  for (const macro::Procedure* procedure : builtEntries()) {
-    const Outcome expected = callAs(kDefault, *procedure);
+  for (const macro::Procedure& procedure : entries()) {
+    const Outcome expected = callAs(kDefault, procedure);
     for (const Host& host : kHosts) {
-      SCOPED_TRACE(plain(procedure->name) + ", " + host.name);
-      const Outcome outcome = callAs(host.state, *procedure);
+      SCOPED_TRACE(plain(procedure.name) + ", " + host.name);
+      const Outcome outcome = callAs(host.state, procedure);
       EXPECT_EQ(outcome.result, expected.result);
       EXPECT_EQ(outcome.arrays, expected.arrays);
       EXPECT_EQ(outcome.after, host.state);

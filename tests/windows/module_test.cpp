@@ -72,7 +72,7 @@ const IMAGE_NT_HEADERS* headersOf(HMODULE module) {
 }  // namespace
 
 TEST(Module, ImportsOnlyTheSystem) {
-  ASSERT_FALSE(builtEntries().empty());
+  ASSERT_FALSE(entries().empty());
   const HMODULE module = GetModuleHandleW(L"KAVORATB1C.dll");
   const auto* base = reinterpret_cast<const unsigned char*>(module);
   const auto& directory = headersOf(module)->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
@@ -85,7 +85,7 @@ TEST(Module, ImportsOnlyTheSystem) {
 }
 
 TEST(Module, CanLieAnywhereAndRunsNoData) {
-  ASSERT_FALSE(builtEntries().empty());
+  ASSERT_FALSE(entries().empty());
   const IMAGE_NT_HEADERS* headers = headersOf(GetModuleHandleW(L"KAVORATB1C.dll"));
   const WORD wanted = IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE | IMAGE_DLLCHARACTERISTICS_NX_COMPAT;
   EXPECT_EQ(headers->OptionalHeader.DllCharacteristics & wanted, wanted);
@@ -93,7 +93,7 @@ TEST(Module, CanLieAnywhereAndRunsNoData) {
 }
 
 TEST(Module, TellsItsVersion) {
-  ASSERT_FALSE(builtEntries().empty());
+  ASSERT_FALSE(entries().empty());
   DWORD unused;
   const DWORD size = GetFileVersionInfoSizeW(L"KAVORATB1C.dll", &unused);
   ASSERT_GT(size, 0u);
@@ -106,7 +106,7 @@ TEST(Module, TellsItsVersion) {
 }
 
 TEST(Module, GivesEverythingBackWhenUnloaded) {
-  ASSERT_FALSE(builtEntries().empty());
+  ASSERT_FALSE(entries().empty());
   const ModuleCopy copy;
   for (const bool failToo : {false, true}) {
     cycle(failToo);
@@ -124,7 +124,7 @@ TEST(Module, GivesEverythingBackWhenUnloaded) {
 #if defined(__i386__)
 
 TEST(Module, FailsAsToldBesideASharedUnwinder) {
-  ASSERT_FALSE(builtEntries().empty());
+  ASSERT_FALSE(entries().empty());
   const HMODULE unwinder = LoadLibraryW(L"libgcc_s_dw2-1.dll");
   ASSERT_NE(unwinder, nullptr);
   const ModuleCopy copy;

@@ -142,7 +142,7 @@ void VB_V_DuplicateStr(BSTR* iVect, int n, BSTR* oVect);
 /// value.
 VARIANT_BOOL VB_V_IsConstant(double* iVect, int n);
 
-/// -1 when all n flags are equal or n is below 2, else 0.
+/// -1 when all n flags hold the same value or n is below 2, else 0.
 VARIANT_BOOL VB_V_IsConstantBool(VARIANT_BOOL* iVect, int n);
 
 /// Copies iVect without its cell ID (1-based) to oVect, which receives n - 1 cells.
@@ -445,11 +445,32 @@ void VB_M_Standardize(
 /// constant column becomes 0.0.
 void VB_M_StandardizeMatrix(double* ioM1, int n1, int p, double* ioM2, int n2, double* ioM3, int n3);
 
+/// Labels of each column: most frequent one (Mode, FreqMode), number (NbCat, in all NbCatTotal), list
+/// (Cat) and weights (FreqCat), column after column; sorted when DoSort is set.
+void VB_M_InfoQuali(
+    BSTR* iMat, int n, int p, BSTR* Mode, double* FreqMode, int* NbCatTotal, int* NbCat, BSTR* Cat,
+    double* FreqCat, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL DoSort);
+
+/// Weighted frequencies, in this table, of the categories listed in Cat (NbCat per column) into
+/// FreqCatValid; Problem is -1 when a label is not among them.
+void VB_M_InfoQualiValid(
+    BSTR* iMat, int n, int p, int nCat, int NbCatTotal, int* NbCat, BSTR* Cat, double* FreqCatValid,
+    VARIANT_BOOL* Problem, VARIANT_BOOL* iMissing, double* w);
+
 /// Weighted mean, standard deviation and variance of column IDCol (1-based) over the rows without a flag;
 /// the marker when they cannot be computed.
 void VB_M_MeanStDevVarOneInMat(
     double* iMat, int n, int IDCol, double* Mean, double* StDev, double* Var, VARIANT_BOOL* iMissing,
     double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne);
+
+/// Returns -1 when every cell is an integer below 2^53 in magnitude, else 0.
+VARIANT_BOOL VB_M_IsLong(double* iMat, int n, int p);
+
+/// Writes ival into every missing cell of iMat, in place; the other cells stay.
+void VB_M_ReplaceMissingByVal(double* iMat, int n, int p, double ival);
+
+/// Writes ival into every empty cell of the string table, in place; the other cells keep their text.
+void VB_M_ReplaceMissingByStr(BSTR* iMat, int n, int p, BSTR ival);
 
 /// Copies the table without column iCol (1-based; the last when there is none) into oMat (n x (p - 1));
 /// markers stay as they are.
@@ -467,6 +488,23 @@ void VB_M_MoveRow(double* iMat, int n, int p, int iRow, int iNewPos);
 void VB_M_MinMax(
     double* iMat, int n, int p, double* VMin, double* VMax, VARIANT_BOOL* iMissing,
     VARIANT_BOOL MissingPerCol);
+
+/// Sets missing to -1 where it was set or the row holds a missing cell, and AllMissing to -1 where every
+/// cell of the row is missing; 0 elsewhere.
+void VB_M_AllMissingRows(double* iMat, int n, int p, VARIANT_BOOL* missing, VARIANT_BOOL* AllMissing);
+
+/// Sets missing to -1 where it was set or the row holds an empty cell, and AllMissing to -1 where every
+/// cell of the row is empty; 0 elsewhere.
+void VB_M_AllMissingRowsStr(BSTR* iMat, int n, int p, VARIANT_BOOL* missing, VARIANT_BOOL* AllMissing);
+
+/// Number of missing cells in each column, into NbMissing (p).
+void VB_M_NbMissing(double* iMat, int n, int p, int* NbMissing);
+
+/// Number of empty cells in each column of the string table, into NbMissing (p).
+void VB_M_NbMissingStr(BSTR* iMat, int n, int p, int* NbMissing);
+
+/// Number of cells present in each column, into NbNonMissing (p).
+void VB_M_NbNonMissing(double* iMat, int n, int p, int* NbNonMissing);
 
 /// Writes s1.A + S2.B (n x p) into oCMat; a missing operand shows in the result.
 void VB_M_Sums1As2B(double* iAMat, int n, int p, double* iBMat, double s1, double S2, double* oCMat);
@@ -569,6 +607,10 @@ void VB_M_SumByCols(double* iMat, int n, int p, double* oSums);
 /// Sum of each row, into oSums (n); a missing cell shows in its sum.
 void VB_M_SumByRows(double* iMat, int n, int p, double* oSums);
 
+/// Returns -1 when the table is 0/1 columns in consecutive groups that sum to 1 in every row without a
+/// flag, else 0; oNbVar receives the number of groups.
+VARIANT_BOOL VB_M_IsDisjTable(double* iMat, int n, int p, VARIANT_BOOL* missing, int* oNbVar);
+
 /// Copies the table cell by cell into oMat (n x p); markers stay as they are.
 void VB_M_DuplicateDbl(double* iAMat, int n, int p, double* oMat);
 
@@ -631,9 +673,19 @@ void VB_M_ProductHorizAB2(double* ioMat1, int n, int* iop1, double* iMat2, int p
 void VB_M_ReplaceStrByCodes(
     BSTR* iMat, int n, int p, int* NbCat, BSTR* Cat, VARIANT_BOOL* iMissing, int iCodeStart, double* oMat);
 
+/// Returns -1 when the n x n table is symmetric, else 0.
+VARIANT_BOOL VB_M_IsSymmetric(double* t, int n);
+
+/// Returns -1 when all diagonal cells of the n x n table are equal, else 0.
+VARIANT_BOOL VB_M_IsDiagConstant(double* t, int n);
+
 /// Makes the n x n table symmetric in place: iType 0 takes the mean of both triangles, 1 copies upper to
 /// lower, 2 lower to upper.
 void VB_M_Symmetrize(double* t, int n, int iType);
+
+/// Returns 0 for neither, 1 for a lower, 2 for an upper triangular table, 3 for both; iUpdateT set
+/// mirrors the filled triangle in place.
+int VB_M_IsTriangular(double* t, int n, VARIANT_BOOL iUpdateT);
 
 /// Returns 0 for a table of dissimilarities, 1 for similarities, iApriori when both fit, -1 when neither
 /// does.
@@ -642,6 +694,9 @@ int VB_M_CheckIfSimOrDissim(double* t, int n, int iApriori);
 /// Replaces similarities by dissimilarities in place: s(i,i) - s(i,j) for i below j, mirrored, with a
 /// diagonal of 0.0.
 void VB_M_TransformSimToDissim(double* t, int n);
+
+/// Sets all pW weights (w is n x pW) of each row of t with a missing cell to 0.0; the other weights stay.
+void VB_M_SetWeightsToZeroForMissing(double* t, int n, int p, double* w, int pW);
 
 /// Inverse of a triangular n x n table into that triangle of oInvMat; the other one is not written.
 /// Returns 0, or -1 when a diagonal cell is below Eps in magnitude.
@@ -747,6 +802,9 @@ int VB_M_CholDecompCleaned(double* iMat, int p, int* iConstraints, double* oMat)
 /// the diagonal.
 void VB_M_CorrMatFromCovMat(double* iCovMat, int p, double* oCorrMat);
 
+/// Returns -1 when every cell lies between 0 and 1, bounds included, else 0.
+VARIANT_BOOL VB_M_IsIn01(double* iMat, int n, int p);
+
 /// Pastes the n x p table into ioMat (n2 x p2) from row nStart, column pStart (1-based); what overhangs
 /// is cut, the other cells stay.
 void VB_M_PasteBlock(double* iMat, int n, int p, double* ioMat, int n2, int p2, int nStart, int pStart);
@@ -757,6 +815,31 @@ double VB_M_ProductTrV1BV2(double* iVect1, int n, double* iBMat, double* iVect2)
 /// Copies the n x p table into the leading block of oMat (nOut x pOut); the other cells of oMat keep
 /// their content.
 void VB_M_CopyToBigger(double* iMat, int n, int p, double* oMat, int nOut, int pOut);
+
+/// One random row per interval (SampleSize in all) into oMat, 1-based positions into idx. ioSeed receives
+/// the seed unless iSeedInit is set; oSeed serves a next call.
+void VB_M_SamplingRandomStratified(
+    BSTR* iMat, int n, int p, int SampleSize, BSTR* oMat, double* idx, int* ioSeed, VARIANT_BOOL iSeedInit,
+    int* oSeed);
+
+/// Takes the middle row of each of SampleSize equal intervals: rows into oMat (SampleSize x p) as new
+/// strings, 1-based positions into idx.
+void VB_M_SamplingSystematicCentered(BSTR* iMat, int n, int p, int SampleSize, BSTR* oMat, double* idx);
+
+/// SampleSize rows at even steps from a random start into oMat, 1-based positions into idx. ioSeed
+/// receives the seed unless iSeedInit is set; oSeed serves a next call.
+void VB_M_SamplingSystematicRdStart(
+    BSTR* iMat, int n, int p, int SampleSize, BSTR* oMat, double* idx, int* ioSeed, VARIANT_BOOL iSeedInit,
+    int* oSeed);
+
+/// Copies the rows named in idx (1-based) of the string table into oMat, in that order, as new strings.
+void VB_M_SampleUserDefined(BSTR* iMat, int n, int p, BSTR* oMat, double* idx);
+
+/// SampleSize rows drawn with replacement into oMat, 1-based positions into idx. ioSeed receives the seed
+/// unless iSeedInit is set; oSeed serves a next call.
+void VB_M_SamplingWithReplacement(
+    BSTR* iMat, int n, int p, int SampleSize, BSTR* oMat, double* idx, int* ioSeed, VARIANT_BOOL iSeedInit,
+    int* oSeed);
 
 /// Interaction of two coded blocks, into ioMat1; iop1 becomes iop1.p2. iConstraintType 3 divides by
 /// weight sums; oInterFreqCat receives the positive ones.
@@ -968,8 +1051,18 @@ void VB_CopyMatrixColToOneColMatStr(BSTR* iMat, int n, int iCol, BSTR* oVectMat)
 /// Fills iVector (n cells) with 1.0 from iStart to iEnd (1-based, inclusive) and 0.0 elsewhere.
 void VB_GenerateIndicator(double* iVector, int n, int iStart, int iEnd);
 
+/// Fills iVector with n1 ones at random among n cells, zeros elsewhere. ioSeed receives the seed unless
+/// iSeedInit is set; oSeed serves a next call.
+void VB_GenerateRandomIndicator(
+    double* iVector, int n, int n1, int* ioSeed, VARIANT_BOOL iSeedInit, int* oSeed);
+
 /// Appends the flags iVect2 to ioVect1, in place; the array must hold n1 + n2 cells.
 void VB_VMergeVectorsBool2(VARIANT_BOOL* ioVect1, int n1, VARIANT_BOOL* iVect2, int n2);
+
+/// Sets AllMissing to -1 for the rows flagged in both AllMissingX and AllMissingQ (a null array is
+/// ignored), to 0 elsewhere, and NbAllMissing to their number.
+void VB_SummarizeAllMissing(
+    int n, VARIANT_BOOL* AllMissingX, VARIANT_BOOL* AllMissingQ, int* NbAllMissing, VARIANT_BOOL* AllMissing);
 
 /// Sets the n flags of oVector to 0; returns 0.
 int VB_InitVectorToFalse(VARIANT_BOOL* oVector, int n);
@@ -979,6 +1072,56 @@ VARIANT_BOOL VB_IsMissingValueDbl(double iValue);
 
 /// -1 when iValue is the empty string, else 0; a string of blanks is not missing.
 VARIANT_BOOL VB_IsMissingValueStr(BSTR iValue);
+
+/// Sets oMissing to -1 for the rows with a flag other than 0 in iMissing1, iMissing2 or iMissing3 (each
+/// may be null), to 0 elsewhere, and oNbMissing to their number.
+void VB_SummarizeMissing(
+    int n, int* oNbMissing, VARIANT_BOOL* oMissing, VARIANT_BOOL* iMissing1, VARIANT_BOOL* iMissing2,
+    VARIANT_BOOL* iMissing3);
+
+/// Copies the rows of ioTable whose flag is 0, in their order, to oTable, which receives n - NbMissing
+/// rows of p columns.
+void VB_RemoveRowsWithMissing(
+    double* ioTable, int n, int p, int NbMissing, VARIANT_BOOL* iMissing, double* oTable);
+
+/// Copies the rows of the strings ioTable whose flag is 0, in their order, to oTable as new strings, n -
+/// NbMissing rows of p columns.
+void VB_RemoveRowsWithMissingStr(
+    BSTR* ioTable, int n, int p, int NbMissing, VARIANT_BOOL* iMissing, BSTR* oTable);
+
+/// Replaces the label of every row whose flag is not 0 in place by iPrefixe followed by the row number
+/// (1-based).
+void VB_ReplaceMissingObsLabels(BSTR* ioObsLabels, int n, VARIANT_BOOL* iMissingObs, BSTR iPrefixe);
+
+/// Replaces missing cells of ioTable in place by the column's weighted mean; flagged rows are filled but
+/// do not take part in it. A column with nothing present stays missing.
+void VB_EstimateRowsWithMissingMean(double* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w);
+
+/// Replaces empty cells of ioTable in place by the column's weighted mode; flagged rows are filled but do
+/// not take part in it. A column with nothing present stays empty.
+void VB_EstimateRowsWithMissingMode(BSTR* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w);
+
+/// Fills the missing cells of the three tables in place from the nearest row over all of them that has
+/// the wanted cell and a weight above 0; ties go to the first row.
+void VB_EstimateRowsWithMissingNN(
+    double* iTable1Dbl, int n, int p1, VARIANT_BOOL* iMissing, double* iTable2Dbl, int p2, BSTR* iTable3Str,
+    int p3, double* w);
+
+/// Replaces missing cells of ioTable (n rows) in place by the weighted column means of the learning table
+/// iTable (nin rows); a column with nothing present there stays missing.
+void VB_EstimateRowsWithMissingMeanPred(
+    double* iTable, int nin, double* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w);
+
+/// Replaces empty cells of ioTable (n rows) in place by the weighted column modes of the learning table
+/// iTable (nin rows); a column with nothing present there stays empty.
+void VB_EstimateRowsWithMissingModePred(
+    BSTR* iTable, int nin, BSTR* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w);
+
+/// Fills the missing cells of the three n-row tables in place from the nearest of the nin rows of the
+/// learning tables (names in ii) that has the wanted cell; ties go to the first row.
+void VB_EstimateRowsWithMissingNNPred(
+    double* iiTable1Dbl, int nin, double* iTable1Dbl, int n, int p1, VARIANT_BOOL* iMissing,
+    double* iiTable2Dbl, double* iTable2Dbl, int p2, BSTR* iiTable3Str, BSTR* iTable3Str, int p3, double* w);
 
 /// Returns the weighted linear correlation of two vectors over the rows without a flag, a missing cell or
 /// weight 0.0; 0.0 when a side is constant.
@@ -993,6 +1136,10 @@ double VB_MAPE(double* Y, double* YPred, int n, double* w, int binf);
 /// Returns the square root of sum((Y - PredY)^2) / DF over the nY rows of column p (1-based); rows with Y
 /// missing are left out.
 double VB_RMSE(double* Y, int nY, int p, double* PredY, int DF);
+
+/// Writes L.VarCov.L' (n x n) into NewVarCov and its diagonal into NewVarVect; LCombines holds n
+/// combinations of p variables.
+void VB_ComputeNewVar(double* LCombines, int n, int p, double* VarCov, double* NewVarVect, double* NewVarCov);
 
 /// Counts eigenvalues kept (oNbEigen) and selected (oDispEigen); Percent receives percentages. Without
 /// iDoFilter a last one below iFilter becomes 0.0 in place.

@@ -513,10 +513,34 @@ KAV_ENTRY void KAV_CALL VB_M_StandardizeMatrix(
   return guarded<void>([&] { return entries::VB_M_StandardizeMatrix(ioM1, n1, p, ioM2, n2, ioM3, n3); });
 }
 
+KAV_ENTRY void KAV_CALL VB_M_InfoQuali(
+    BSTR* iMat, int n, int p, BSTR* Mode, double* FreqMode, int* NbCatTotal, int* NbCat, BSTR* Cat,
+    double* FreqCat, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL DoSort) noexcept {
+  return guarded<void>([&] { return entries::VB_M_InfoQuali(iMat, n, p, Mode, FreqMode, NbCatTotal, NbCat, Cat, FreqCat, iMissing, w, DoSort); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_InfoQualiValid(
+    BSTR* iMat, int n, int p, int nCat, int NbCatTotal, int* NbCat, BSTR* Cat, double* FreqCatValid,
+    VARIANT_BOOL* Problem, VARIANT_BOOL* iMissing, double* w) noexcept {
+  return guarded<void>([&] { return entries::VB_M_InfoQualiValid(iMat, n, p, nCat, NbCatTotal, NbCat, Cat, FreqCatValid, Problem, iMissing, w); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_MeanStDevVarOneInMat(
     double* iMat, int n, int IDCol, double* Mean, double* StDev, double* Var, VARIANT_BOOL* iMissing,
     double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) noexcept {
   return guarded<void>([&] { return entries::VB_M_MeanStDevVarOneInMat(iMat, n, IDCol, Mean, StDev, Var, iMissing, w, Unbiased, BiasIsOne); });
+}
+
+KAV_ENTRY VARIANT_BOOL KAV_CALL VB_M_IsLong(double* iMat, int n, int p) noexcept {
+  return guarded<VARIANT_BOOL>([&] { return entries::VB_M_IsLong(iMat, n, p); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ReplaceMissingByVal(double* iMat, int n, int p, double ival) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ReplaceMissingByVal(iMat, n, p, ival); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_ReplaceMissingByStr(BSTR* iMat, int n, int p, BSTR ival) noexcept {
+  return guarded<void>([&] { return entries::VB_M_ReplaceMissingByStr(iMat, n, p, ival); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_RemoveCol(double* iMat, int n, int p, int iCol, double* oMat) noexcept {
@@ -535,6 +559,28 @@ KAV_ENTRY void KAV_CALL VB_M_MinMax(
     double* iMat, int n, int p, double* VMin, double* VMax, VARIANT_BOOL* iMissing,
     VARIANT_BOOL MissingPerCol) noexcept {
   return guarded<void>([&] { return entries::VB_M_MinMax(iMat, n, p, VMin, VMax, iMissing, MissingPerCol); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_AllMissingRows(
+    double* iMat, int n, int p, VARIANT_BOOL* missing, VARIANT_BOOL* AllMissing) noexcept {
+  return guarded<void>([&] { return entries::VB_M_AllMissingRows(iMat, n, p, missing, AllMissing); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_AllMissingRowsStr(
+    BSTR* iMat, int n, int p, VARIANT_BOOL* missing, VARIANT_BOOL* AllMissing) noexcept {
+  return guarded<void>([&] { return entries::VB_M_AllMissingRowsStr(iMat, n, p, missing, AllMissing); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_NbMissing(double* iMat, int n, int p, int* NbMissing) noexcept {
+  return guarded<void>([&] { return entries::VB_M_NbMissing(iMat, n, p, NbMissing); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_NbMissingStr(BSTR* iMat, int n, int p, int* NbMissing) noexcept {
+  return guarded<void>([&] { return entries::VB_M_NbMissingStr(iMat, n, p, NbMissing); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_NbNonMissing(double* iMat, int n, int p, int* NbNonMissing) noexcept {
+  return guarded<void>([&] { return entries::VB_M_NbNonMissing(iMat, n, p, NbNonMissing); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_Sums1As2B(
@@ -675,6 +721,11 @@ KAV_ENTRY void KAV_CALL VB_M_SumByRows(double* iMat, int n, int p, double* oSums
   return guarded<void>([&] { return entries::VB_M_SumByRows(iMat, n, p, oSums); });
 }
 
+KAV_ENTRY VARIANT_BOOL KAV_CALL VB_M_IsDisjTable(
+    double* iMat, int n, int p, VARIANT_BOOL* missing, int* oNbVar) noexcept {
+  return guarded<VARIANT_BOOL>([&] { return entries::VB_M_IsDisjTable(iMat, n, p, missing, oNbVar); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_DuplicateDbl(double* iAMat, int n, int p, double* oMat) noexcept {
   return guarded<void>([&] { return entries::VB_M_DuplicateDbl(iAMat, n, p, oMat); });
 }
@@ -745,8 +796,20 @@ KAV_ENTRY void KAV_CALL VB_M_ReplaceStrByCodes(
   return guarded<void>([&] { return entries::VB_M_ReplaceStrByCodes(iMat, n, p, NbCat, Cat, iMissing, iCodeStart, oMat); });
 }
 
+KAV_ENTRY VARIANT_BOOL KAV_CALL VB_M_IsSymmetric(double* t, int n) noexcept {
+  return guarded<VARIANT_BOOL>([&] { return entries::VB_M_IsSymmetric(t, n); });
+}
+
+KAV_ENTRY VARIANT_BOOL KAV_CALL VB_M_IsDiagConstant(double* t, int n) noexcept {
+  return guarded<VARIANT_BOOL>([&] { return entries::VB_M_IsDiagConstant(t, n); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_Symmetrize(double* t, int n, int iType) noexcept {
   return guarded<void>([&] { return entries::VB_M_Symmetrize(t, n, iType); });
+}
+
+KAV_ENTRY int KAV_CALL VB_M_IsTriangular(double* t, int n, VARIANT_BOOL iUpdateT) noexcept {
+  return guarded<int>([&] { return entries::VB_M_IsTriangular(t, n, iUpdateT); });
 }
 
 KAV_ENTRY int KAV_CALL VB_M_CheckIfSimOrDissim(double* t, int n, int iApriori) noexcept {
@@ -755,6 +818,10 @@ KAV_ENTRY int KAV_CALL VB_M_CheckIfSimOrDissim(double* t, int n, int iApriori) n
 
 KAV_ENTRY void KAV_CALL VB_M_TransformSimToDissim(double* t, int n) noexcept {
   return guarded<void>([&] { return entries::VB_M_TransformSimToDissim(t, n); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SetWeightsToZeroForMissing(double* t, int n, int p, double* w, int pW) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SetWeightsToZeroForMissing(t, n, p, w, pW); });
 }
 
 KAV_ENTRY int KAV_CALL VB_M_InverseTriang(
@@ -877,6 +944,10 @@ KAV_ENTRY void KAV_CALL VB_M_CorrMatFromCovMat(double* iCovMat, int p, double* o
   return guarded<void>([&] { return entries::VB_M_CorrMatFromCovMat(iCovMat, p, oCorrMat); });
 }
 
+KAV_ENTRY VARIANT_BOOL KAV_CALL VB_M_IsIn01(double* iMat, int n, int p) noexcept {
+  return guarded<VARIANT_BOOL>([&] { return entries::VB_M_IsIn01(iMat, n, p); });
+}
+
 KAV_ENTRY void KAV_CALL VB_M_PasteBlock(
     double* iMat, int n, int p, double* ioMat, int n2, int p2, int nStart, int pStart) noexcept {
   return guarded<void>([&] { return entries::VB_M_PasteBlock(iMat, n, p, ioMat, n2, p2, nStart, pStart); });
@@ -889,6 +960,33 @@ KAV_ENTRY double KAV_CALL VB_M_ProductTrV1BV2(double* iVect1, int n, double* iBM
 KAV_ENTRY void KAV_CALL VB_M_CopyToBigger(
     double* iMat, int n, int p, double* oMat, int nOut, int pOut) noexcept {
   return guarded<void>([&] { return entries::VB_M_CopyToBigger(iMat, n, p, oMat, nOut, pOut); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SamplingRandomStratified(
+    BSTR* iMat, int n, int p, int SampleSize, BSTR* oMat, double* idx, int* ioSeed, VARIANT_BOOL iSeedInit,
+    int* oSeed) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SamplingRandomStratified(iMat, n, p, SampleSize, oMat, idx, ioSeed, iSeedInit, oSeed); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SamplingSystematicCentered(
+    BSTR* iMat, int n, int p, int SampleSize, BSTR* oMat, double* idx) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SamplingSystematicCentered(iMat, n, p, SampleSize, oMat, idx); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SamplingSystematicRdStart(
+    BSTR* iMat, int n, int p, int SampleSize, BSTR* oMat, double* idx, int* ioSeed, VARIANT_BOOL iSeedInit,
+    int* oSeed) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SamplingSystematicRdStart(iMat, n, p, SampleSize, oMat, idx, ioSeed, iSeedInit, oSeed); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SampleUserDefined(BSTR* iMat, int n, int p, BSTR* oMat, double* idx) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SampleUserDefined(iMat, n, p, oMat, idx); });
+}
+
+KAV_ENTRY void KAV_CALL VB_M_SamplingWithReplacement(
+    BSTR* iMat, int n, int p, int SampleSize, BSTR* oMat, double* idx, int* ioSeed, VARIANT_BOOL iSeedInit,
+    int* oSeed) noexcept {
+  return guarded<void>([&] { return entries::VB_M_SamplingWithReplacement(iMat, n, p, SampleSize, oMat, idx, ioSeed, iSeedInit, oSeed); });
 }
 
 KAV_ENTRY void KAV_CALL VB_M_ProductDesignAB2(
@@ -1122,9 +1220,19 @@ KAV_ENTRY void KAV_CALL VB_GenerateIndicator(double* iVector, int n, int iStart,
   return guarded<void>([&] { return entries::VB_GenerateIndicator(iVector, n, iStart, iEnd); });
 }
 
+KAV_ENTRY void KAV_CALL VB_GenerateRandomIndicator(
+    double* iVector, int n, int n1, int* ioSeed, VARIANT_BOOL iSeedInit, int* oSeed) noexcept {
+  return guarded<void>([&] { return entries::VB_GenerateRandomIndicator(iVector, n, n1, ioSeed, iSeedInit, oSeed); });
+}
+
 KAV_ENTRY void KAV_CALL VB_VMergeVectorsBool2(
     VARIANT_BOOL* ioVect1, int n1, VARIANT_BOOL* iVect2, int n2) noexcept {
   return guarded<void>([&] { return entries::VB_VMergeVectorsBool2(ioVect1, n1, iVect2, n2); });
+}
+
+KAV_ENTRY void KAV_CALL VB_SummarizeAllMissing(
+    int n, VARIANT_BOOL* AllMissingX, VARIANT_BOOL* AllMissingQ, int* NbAllMissing, VARIANT_BOOL* AllMissing) noexcept {
+  return guarded<void>([&] { return entries::VB_SummarizeAllMissing(n, AllMissingX, AllMissingQ, NbAllMissing, AllMissing); });
 }
 
 KAV_ENTRY int KAV_CALL VB_InitVectorToFalse(VARIANT_BOOL* oVector, int n) noexcept {
@@ -1139,6 +1247,59 @@ KAV_ENTRY VARIANT_BOOL KAV_CALL VB_IsMissingValueStr(BSTR iValue) noexcept {
   return guarded<VARIANT_BOOL>([&] { return entries::VB_IsMissingValueStr(iValue); });
 }
 
+KAV_ENTRY void KAV_CALL VB_SummarizeMissing(
+    int n, int* oNbMissing, VARIANT_BOOL* oMissing, VARIANT_BOOL* iMissing1, VARIANT_BOOL* iMissing2,
+    VARIANT_BOOL* iMissing3) noexcept {
+  return guarded<void>([&] { return entries::VB_SummarizeMissing(n, oNbMissing, oMissing, iMissing1, iMissing2, iMissing3); });
+}
+
+KAV_ENTRY void KAV_CALL VB_RemoveRowsWithMissing(
+    double* ioTable, int n, int p, int NbMissing, VARIANT_BOOL* iMissing, double* oTable) noexcept {
+  return guarded<void>([&] { return entries::VB_RemoveRowsWithMissing(ioTable, n, p, NbMissing, iMissing, oTable); });
+}
+
+KAV_ENTRY void KAV_CALL VB_RemoveRowsWithMissingStr(
+    BSTR* ioTable, int n, int p, int NbMissing, VARIANT_BOOL* iMissing, BSTR* oTable) noexcept {
+  return guarded<void>([&] { return entries::VB_RemoveRowsWithMissingStr(ioTable, n, p, NbMissing, iMissing, oTable); });
+}
+
+KAV_ENTRY void KAV_CALL VB_ReplaceMissingObsLabels(
+    BSTR* ioObsLabels, int n, VARIANT_BOOL* iMissingObs, BSTR iPrefixe) noexcept {
+  return guarded<void>([&] { return entries::VB_ReplaceMissingObsLabels(ioObsLabels, n, iMissingObs, iPrefixe); });
+}
+
+KAV_ENTRY void KAV_CALL VB_EstimateRowsWithMissingMean(
+    double* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w) noexcept {
+  return guarded<void>([&] { return entries::VB_EstimateRowsWithMissingMean(ioTable, n, p, iMissing, w); });
+}
+
+KAV_ENTRY void KAV_CALL VB_EstimateRowsWithMissingMode(
+    BSTR* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w) noexcept {
+  return guarded<void>([&] { return entries::VB_EstimateRowsWithMissingMode(ioTable, n, p, iMissing, w); });
+}
+
+KAV_ENTRY void KAV_CALL VB_EstimateRowsWithMissingNN(
+    double* iTable1Dbl, int n, int p1, VARIANT_BOOL* iMissing, double* iTable2Dbl, int p2, BSTR* iTable3Str,
+    int p3, double* w) noexcept {
+  return guarded<void>([&] { return entries::VB_EstimateRowsWithMissingNN(iTable1Dbl, n, p1, iMissing, iTable2Dbl, p2, iTable3Str, p3, w); });
+}
+
+KAV_ENTRY void KAV_CALL VB_EstimateRowsWithMissingMeanPred(
+    double* iTable, int nin, double* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w) noexcept {
+  return guarded<void>([&] { return entries::VB_EstimateRowsWithMissingMeanPred(iTable, nin, ioTable, n, p, iMissing, w); });
+}
+
+KAV_ENTRY void KAV_CALL VB_EstimateRowsWithMissingModePred(
+    BSTR* iTable, int nin, BSTR* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w) noexcept {
+  return guarded<void>([&] { return entries::VB_EstimateRowsWithMissingModePred(iTable, nin, ioTable, n, p, iMissing, w); });
+}
+
+KAV_ENTRY void KAV_CALL VB_EstimateRowsWithMissingNNPred(
+    double* iiTable1Dbl, int nin, double* iTable1Dbl, int n, int p1, VARIANT_BOOL* iMissing,
+    double* iiTable2Dbl, double* iTable2Dbl, int p2, BSTR* iiTable3Str, BSTR* iTable3Str, int p3, double* w) noexcept {
+  return guarded<void>([&] { return entries::VB_EstimateRowsWithMissingNNPred(iiTable1Dbl, nin, iTable1Dbl, n, p1, iMissing, iiTable2Dbl, iTable2Dbl, p2, iiTable3Str, iTable3Str, p3, w); });
+}
+
 KAV_ENTRY double KAV_CALL VB_CorrelPearson(
     double* iVector1, double* iVector2, int n, VARIANT_BOOL* iMissing, double* w, VARIANT_BOOL Unbiased,
     VARIANT_BOOL BiasIsOne) noexcept {
@@ -1151,6 +1312,11 @@ KAV_ENTRY double KAV_CALL VB_MAPE(double* Y, double* YPred, int n, double* w, in
 
 KAV_ENTRY double KAV_CALL VB_RMSE(double* Y, int nY, int p, double* PredY, int DF) noexcept {
   return guarded<double>([&] { return entries::VB_RMSE(Y, nY, p, PredY, DF); });
+}
+
+KAV_ENTRY void KAV_CALL VB_ComputeNewVar(
+    double* LCombines, int n, int p, double* VarCov, double* NewVarVect, double* NewVarCov) noexcept {
+  return guarded<void>([&] { return entries::VB_ComputeNewVar(LCombines, n, p, VarCov, NewVarVect, NewVarCov); });
 }
 
 KAV_ENTRY void KAV_CALL VB_FilterEigen(

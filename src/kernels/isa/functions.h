@@ -19,6 +19,7 @@ void rankTwo(const RankTwo& r);
 void columnSums(const ColumnSums& s);
 void updateColumns(const ColumnUpdate& u);
 void sweep(const Sweep& s);
+bool distances(const Distances& d);
 
 namespace {
 
@@ -31,6 +32,9 @@ constexpr Index kSideVectors = sizeof(void*) != 8 ? 4 : KAV_VECTOR_BYTES == 16 ?
 /// Their rows of a table stay in the first-level cache.
 constexpr Index kReflectVectors = sizeof(void*) == 8 && KAV_VECTOR_BYTES == 16 ? 4 : 2;
 constexpr Index kRotateVectors = 4;
+
+/// Enough to hide the latency of a division.
+constexpr Index kDistanceVectors = KAV_VECTOR_BYTES == 64 ? 2 : 4;
 
 }  // namespace
 

@@ -22,6 +22,8 @@ const Table table = {KAV_ISA_NAME,
                      rankTwo,
                      columnSums,
                      updateColumns,
-                     sweep};
+                     sweep,
+                     static_cast<int>(kDistanceVectors* kLanes),
+                     distances};
 
 }  // namespace kernels::KAV_ISA

@@ -1,0 +1,38 @@
+// Missing cells of a container visited, to be filled. Internal.
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+
+#include "core/Smatrix.h"
+#include "core/addressing.h"
+#include "core/matrix.h"
+
+namespace missing {
+
+inline bool isMissing(const matrix& m, std::int64_t k) { return m.missing[k] || isMarker(m.values[k]); }
+inline bool isMissing(const Smatrix& m, std::int64_t k) { return m.cells[k].empty(); }
+
+/// visit(row, linear index) for the missing cells among the first n of a column, those inside the container.
+template <class Container, class Visit>
+void forEachInColumn(const Container* m, int n, int column, Visit visit) {
+  if (m == nullptr) return;
+  const std::int64_t begin = addressing::linearIndex(0, column, m->nX);
+  const std::int64_t count = std::clamp<std::int64_t>(addressing::cellCount(*m) - begin, 0, std::max(n, 0));
+  for (std::int64_t i = 0; i < count; ++i) {
+    if (isMissing(*m, begin + i)) visit(static_cast<int>(i), begin + i);
+  }
+}
+
+inline void fill(matrix& m, std::int64_t k, double x) {
+  m.missing[k] = false;
+  m.values[k] = x;
+  m.descValid = 0;
+}
+
+template <class Text>
+void fill(Smatrix& m, std::int64_t k, const Text& text) {
+  m.cells[k] = text;
+}
+
+}  // namespace missing
