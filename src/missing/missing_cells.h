@@ -1,7 +1,7 @@
 // Missing cells of tables: counted, flagged, replaced, their rows removed.
 //
 // Tables are leading n x p blocks of a container. A number is missing when its flag is set or it holds
-// exactly the marker, a text when it is empty; cells outside the container are not missing, but texts that
+// exactly the marker, a text when it is empty; cells outside the container are not missing, unless texts
 // are counted. Flags are arrays of n, any value but 0 counts; results are written as -1 and 0.
 #pragma once
 

@@ -49,21 +49,20 @@ TEST(Qualitative, SummariesAndFrequenciesAreAsDefined) {
       counts.push_back(double(of.size()));
       for (const auto& text : order) list.push_back(text), weights.push_back(of[text]);
     }
-    Smatrix *modesMade = nullptr, *listMade = nullptr;
-    matrix *foundMade = nullptr, *heaviestMade = nullptr, *countsMade = nullptr, *weightsMade = nullptr;
+    Smatrix *modesIs = nullptr, *listIs = nullptr;
+    matrix *foundIs = nullptr, *heaviestIs = nullptr, *countsIs = nullptr, *weightsIs = nullptr;
     int length = 77;
-    M_InfoQualiValid(&table, n, p, columns, total, sizes, &known, foundMade, round % 5 == 0 ? nullptr : &told,
+    M_InfoQualiValid(&table, n, p, columns, total, sizes, &known, foundIs, round % 5 == 0 ? nullptr : &told,
                      exclude, w.get());
     EXPECT_EQ(told, round % 5 == 0 ? 7 : problem);
-    M_InfoQuali(&table, n, p, modesMade, heaviestMade, round % 5 == 1 ? nullptr : &length, countsMade,
-                listMade, weightsMade, exclude, w.get(), short(sorted));
+    M_InfoQuali(&table, n, p, modesIs, heaviestIs, round % 5 == 1 ? nullptr : &length, countsIs, listIs,
+                weightsIs, exclude, w.get(), short(sorted));
     EXPECT_EQ(length, round % 5 == 1 ? 77 : int(list.size()));
-    EXPECT_TRUE(firstOf(modesMade->cells, modesMade->nX) == modes &&
-                firstOf(listMade->cells, listMade->nX) == list);
-    EXPECT_TRUE(holds(*foundMade, int(found.size()), 1, found) && holds(*heaviestMade, p, 1, heaviest));
-    EXPECT_TRUE(holds(*countsMade, p, 1, counts) && holds(*weightsMade, int(list.size()), 1, weights));
-    delete modesMade, delete listMade, delete foundMade;
-    delete heaviestMade, delete countsMade, delete weightsMade;
+    EXPECT_TRUE(firstOf(modesIs->cells, modesIs->nX) == modes && firstOf(listIs->cells, listIs->nX) == list);
+    EXPECT_TRUE(holds(*foundIs, int(found.size()), 1, found) && holds(*heaviestIs, p, 1, heaviest));
+    EXPECT_TRUE(holds(*countsIs, p, 1, counts) && holds(*weightsIs, int(list.size()), 1, weights));
+    delete modesIs, delete listIs, delete foundIs;
+    delete heaviestIs, delete countsIs, delete weightsIs;
   }
 }
 

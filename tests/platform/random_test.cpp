@@ -30,7 +30,7 @@ TEST(RandomNumbers, AreThoseOfThePublishedAlgorithms) {
 }
 
 TEST(RandomNumbers, EverySeedAndTheOneAfterItHaveTheirOwn) {
-  std::set<int> seeds = {INT_MIN, INT_MAX};
+  std::set<int> seeds = {INT_MIN, INT_MIN + 1, INT_MAX - 1, INT_MAX};
   for (int power = 1 << 30; power > 0; power /= 2) {
     for (const int near : {-1, 0, 1}) seeds.insert({power + near, near - power});
   }

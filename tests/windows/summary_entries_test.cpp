@@ -95,9 +95,8 @@ TEST_F(SummaryEntries, EstimatesOfMissingCells) {
   double* const table1 = with({0, 10, 2, 5, 7, kMarker});
   gives(L"EstimateRowsWithMissingNN", {table1, 3, 1, none, x + 3, 1, texts({L"p", L"q", L""}), 1, noWeights},
         L" x 0 10 2 5 7 5 t p q p");
-  with({9, kMarker});
-  gives(L"EstimateRowsWithMissingNNPred", {one, 2, x, 1, 1, none, two, x + 1, 1, r, texts({L""}), 1, w},
-        L" x 9 7 t q");
+  gives(L"EstimateRowsWithMissingNNPred",
+        {one, 2, with({9, kMarker}), 1, 1, none, two, x + 1, 1, r, texts({L""}), 1, w}, L" x 9 7 t q");
 }
 
 TEST_F(SummaryEntries, Samples) {
