@@ -1,6 +1,7 @@
 #include "missing_data.h"
 
 #include <cstdio>
+#include <numeric>
 #include <vector>
 
 #include "csv_table.h"
@@ -75,12 +76,13 @@ bool printEstimates(const macro::Module& dll, const std::string& folder) {
     printDay("  nearest neighbour", byNeighbour, i);
     ++shown;
   }
-  std::vector<int> left(4);
-  dll.call(L"VB_M_NbMissing", {byMean.cells, rows, 4, left});
-  int cells =
-      left[0] + left[1] + left[2] + left[3] + dll.integer(L"VB_V_NbMissingStr", {byNeighbour.months, rows});
-  dll.call(L"VB_M_NbMissing", {byNeighbour.cells, rows, 4, left});
-  cells += left[0] + left[1] + left[2] + left[3];
+  int cells = 0;
+  for (Days* filled : {&byMean, &byNeighbour}) {
+    std::vector<int> left(4);
+    dll.call(L"VB_M_NbMissing", {filled->cells, rows, 4, left});
+    cells +=
+        std::accumulate(left.begin(), left.end(), dll.integer(L"VB_V_NbMissingStr", {filled->months, rows}));
+  }
   return cells == 0;
 }
 

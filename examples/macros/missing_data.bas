@@ -11,6 +11,7 @@ Public Sub FillFromNearestRows()
     Set source = Selection
     n = source.Rows.Count - 1
     p = source.Columns.Count
+    If n < 1 Then Exit Sub
 
     ' Which columns are labels, and where each goes: numbers and labels lie in arrays of their own.
     Dim isLabel() As Boolean, place() As Long, numberColumns As Long, labelColumns As Long
@@ -38,7 +39,7 @@ Public Sub FillFromNearestRows()
         For j = 1 To p
             If isLabel(j) Then
                 labels(i + (place(j) - 1) * n) = CStr(source.Cells(i + 1, j).Value)
-            ElseIf IsEmpty(source.Cells(i + 1, j).Value) Then
+            ElseIf IsEmpty(source.Cells(i + 1, j).Value) Or Not IsNumeric(source.Cells(i + 1, j).Value) Then
                 numbers(i + (place(j) - 1) * n) = MISSING
             Else
                 numbers(i + (place(j) - 1) * n) = source.Cells(i + 1, j).Value
@@ -71,6 +72,7 @@ Public Sub StratifiedSample()
     Set source = Selection
     n = source.Rows.Count - 1
     p = source.Columns.Count
+    If n < 1 Then Exit Sub
     size = Application.InputBox("Rows in the sample", Type:=1)
     If size < 1 Then Exit Sub
 

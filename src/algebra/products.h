@@ -83,7 +83,8 @@ KAV_API double M_FrobeniusNorm(const matrix* a, int n, int p, const matrix* b);
 KAV_API void M_ProductHorizAB(const matrix* a, int n, int p, const matrix* b, int q, matrix* c);
 
 /// The same in place of A: its container is kept when its shape is n x pq, otherwise the pointer receives a
-/// new one; *p becomes pq. Extents below 1 change nothing. Throws std::bad_alloc beyond the columns that a table can have.
+/// new one; *p becomes pq. Extents below 1 change nothing. Throws std::bad_alloc beyond the columns that a
+/// table can have.
 KAV_API void M_ProductHorizAB2(matrix*& a, int n, int* p, const matrix* b, int q);
 
 /// Interaction of two coded blocks, in place of A as M_ProductHorizAB2: a product with a factor of exactly

@@ -70,7 +70,7 @@ class InTable {
 /// table that is no more work than a copy, fresh memory and the copy would be most of the cost.
 class Directly {
  public:
-  Directly() : operands_{nullptr, nullptr} {}
+  constexpr Directly() : operands_{nullptr, nullptr} {}
   explicit Directly(const InTable& a) : operands_{&a, nullptr} {}
   Directly(const InTable& a, const InTable& b) : operands_{&a, &b} {}
 
@@ -173,11 +173,12 @@ class OutArray {
  protected:
   /// What the array holds matters.
   struct Rewritten {};
-  OutArray(Element* array, int n, int p, const Directly& operands, Rewritten) : array_(array) {
+  OutArray(Element* array, int n, int p, const Directly& operands, Cells cells, Rewritten) : array_(array) {
+    const bool keepAll = cells == Cells::KeepAll;
     if (operands.readFrom(array, addressing::cellCount(n, p))) {
-      given_.emplace(n, p, required(array, n, p), true);
+      given_.emplace(n, p, required(array, n, p), keepAll);
     } else {
-      given_.emplace(n, p, required(array, n, p), InPlace());
+      given_.emplace(n, p, required(array, n, p), InPlace(), keepAll);
     }
     result_ = &*given_;
   }
@@ -205,9 +206,9 @@ class InOutArray : public OutArray<Element> {
   InOutArray(Element* array, int n, int p, Cells cells = Cells::FlagMissing)
       : OutArray<Element>(array, n, p, cells) {}
 
-  /// All cells kept; the worker may see the array itself.
-  InOutArray(Element* array, int n, int p, const Directly& operands)
-      : OutArray<Element>(array, n, p, operands, typename OutArray<Element>::Rewritten()) {}
+  /// The worker may see the array itself.
+  InOutArray(Element* array, int n, int p, const Directly& operands, Cells cells = Cells::KeepAll)
+      : OutArray<Element>(array, n, p, operands, cells, typename OutArray<Element>::Rewritten()) {}
 };
 
 using InOutTable = InOutArray<double>;

@@ -6,6 +6,13 @@
 
 using namespace bridge;
 
+namespace {
+
+/// Of workers that know all statistics, the weights used, before they transform the first cell.
+constexpr Directly kStatisticsFirst;
+
+}  // namespace
+
 void entries::VB_M_Center(double* iMat, int n, int p, double* oMat) {
   const InTable a(iMat, n, p);
   OutTable c(oMat, n, p);
@@ -14,7 +21,7 @@ void entries::VB_M_Center(double* iMat, int n, int p, double* oMat) {
 }
 
 void entries::VB_M_Center2(double* ioMat, int n, int p) {
-  InOutTable a(ioMat, n, p);
+  InOutTable a(ioMat, n, p, kStatisticsFirst, Cells::FlagMissing);
   M_Center2(a, n, p);
   store(a);
 }
@@ -28,7 +35,7 @@ void entries::VB_M_CenterW(double* iMat, int n, int p, double* w, double* oMat) 
 }
 
 void entries::VB_M_CenterW2(double* ioMat, int n, int p, double* w) {
-  InOutTable a(ioMat, n, p);
+  InOutTable a(ioMat, n, p, kStatisticsFirst, Cells::FlagMissing);
   const OptionalVector weights(w, n);
   M_CenterW2(a, n, p, weights);
   store(a);
@@ -42,7 +49,7 @@ void entries::VB_M_Reduce(double* iMat, int n, int p, double* oMat, VARIANT_BOOL
 }
 
 void entries::VB_M_Reduce2(double* ioMat, int n, int p, VARIANT_BOOL Unbiased) {
-  InOutTable a(ioMat, n, p);
+  InOutTable a(ioMat, n, p, kStatisticsFirst, Cells::FlagMissing);
   M_Reduce2(a, n, p, Unbiased);
   store(a);
 }
@@ -56,14 +63,14 @@ void entries::VB_M_ReduceW(double* iMat, int n, int p, double* w, double* oMat, 
 }
 
 void entries::VB_M_ReduceW2(double* ioMat, int n, int p, double* w, VARIANT_BOOL Unbiased) {
-  InOutTable a(ioMat, n, p);
+  InOutTable a(ioMat, n, p, kStatisticsFirst, Cells::FlagMissing);
   const OptionalVector weights(w, n);
   M_ReduceW2(a, n, p, weights, Unbiased);
   store(a);
 }
 
 void entries::VB_M_Standardize2(double* ioMat, int n, int p, VARIANT_BOOL Unbiased) {
-  InOutTable a(ioMat, n, p);
+  InOutTable a(ioMat, n, p, kStatisticsFirst, Cells::FlagMissing);
   M_Standardize2(a, n, p, Unbiased);
   store(a);
 }
@@ -77,7 +84,7 @@ void entries::VB_M_Standardize3(double* ioMat, int n, int p, double* oMean, doub
 }
 
 void entries::VB_M_StandardizeW2(double* ioMat, int n, int p, double* w, VARIANT_BOOL Unbiased) {
-  InOutTable a(ioMat, n, p);
+  InOutTable a(ioMat, n, p, kStatisticsFirst, Cells::FlagMissing);
   const OptionalVector weights(w, n);
   M_StandardizeW2(a, n, p, weights, Unbiased);
   store(a);

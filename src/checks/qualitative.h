@@ -14,15 +14,14 @@
 /// The labels that occur in each column (n x p), and how often. A label of rows with weight 0.0 alone occurs,
 /// 0.0 times. Results are prepared.
 ///
-/// @param modes             p x 1: the most frequent label, of several the first in string order; empty
-///                          without labels
-/// @param modeFrequencies   p x 1: its weight, 0.0 without labels
-/// @param total             the length of both lists; null takes nothing
-/// @param counts            p x 1: the number of different labels
-/// @param categories        total x 1: the labels of column 1, those of column 2 and so on; within a column
-/// in
-///                          string order when sorted is -1, else in the order of their first rows
-/// @param frequencies       total x 1: the weight of each
+/// @param modes            p x 1: the most frequent label, of several the first in string order; empty
+///                         without labels
+/// @param modeFrequencies  p x 1: its weight, 0.0 without labels
+/// @param total            the length of both lists; null takes nothing
+/// @param counts           p x 1: the number of different labels
+/// @param categories       total x 1: the labels of column 1, those of column 2 and so on; those of a column
+///                         in string order when sorted is -1, else in the order of their first rows
+/// @param frequencies      total x 1: the weight of each
 KAV_API void M_InfoQuali(const Smatrix* labels, int n, int p, Smatrix*& modes, matrix*& modeFrequencies,
                          int* total, matrix*& counts, Smatrix*& categories, matrix*& frequencies,
                          const short* flags, const matrix* w, short sorted);

@@ -70,6 +70,34 @@ short forEveryCell(const matrix* a, int n, int p, Holds holds) {
   return kTrue;
 }
 
+/// The groups of a table of indicators; 0 when it is none.
+int groupsOf(const matrix* a, int n, int p, const short* exclude) {
+  if (!addressing::cellCount(n, p)) return 0;
+  std::vector<int> rows;
+  usable::forEach(n, usable::NotExcludedIfGiven(exclude), [&](int i) { rows.push_back(i); });
+  if (rows.empty()) return 0;
+  const Table table(a, n, p);
+  std::vector<char> hasOne(static_cast<std::size_t>(n));
+  std::size_t ones = 0;
+  int groups = 0;
+  for (int j = 0; j < p; ++j) {
+    const usable::Present present = table.column(j);
+    for (int i : rows) {
+      const double cell = present.x[i];
+      if (!present(i) || (cell != 0.0 && cell != 1.0)) return 0;
+      if (cell == 0.0) continue;
+      if (hasOne[static_cast<std::size_t>(i)]) return 0;
+      hasOne[static_cast<std::size_t>(i)] = 1;
+      ++ones;
+    }
+    if (ones < rows.size()) continue;
+    ++groups;
+    ones = 0;
+    std::fill(hasOne.begin(), hasOne.end(), char{0});
+  }
+  return ones > 0 ? 0 : groups;
+}
+
 }  // namespace
 
 short M_IsSymmetric(const matrix* t, int n) {
@@ -106,32 +134,9 @@ int M_IsTriangular(matrix* t, int n, short update) {
 }
 
 short M_IsDisjTable(const matrix* a, int n, int p, const short* exclude, int* variables) {
-  results::give(variables, 0);
-  std::vector<int> rows;
-  usable::forEach(n, usable::NotExcludedIfGiven(exclude), [&](int i) { rows.push_back(i); });
-  if (rows.empty()) return kFalse;
-  const Table table(a, n, p);
-  std::vector<char> hasOne(static_cast<std::size_t>(n));
-  std::size_t ones = 0;
-  int groups = 0;
-  for (int j = 0; j < p; ++j) {
-    const usable::Present present = table.column(j);
-    for (int i : rows) {
-      const double cell = present.x[i];
-      if (!present(i) || (cell != 0.0 && cell != 1.0)) return kFalse;
-      if (cell == 0.0) continue;
-      if (hasOne[static_cast<std::size_t>(i)]) return kFalse;
-      hasOne[static_cast<std::size_t>(i)] = 1;
-      ++ones;
-    }
-    if (ones < rows.size()) continue;
-    ++groups;
-    ones = 0;
-    std::fill(hasOne.begin(), hasOne.end(), char{0});
-  }
-  if (ones > 0 || groups == 0) return kFalse;
+  const int groups = groupsOf(a, n, p, exclude);
   results::give(variables, groups);
-  return kTrue;
+  return asFlag(groups > 0);
 }
 
 short M_IsIn01(const matrix* a, int n, int p) {

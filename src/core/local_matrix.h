@@ -34,7 +34,7 @@ class LocalMatrix : private LocalRoom, public matrix {
 struct InPlace {};
 
 /// A matrix that a call lets a worker write to: a macro's array copied, or cells of 0.0, or, where it is
-/// large and aligned, the array itself.
+/// large and aligned, and no cell of it has to be flagged, the array itself.
 class LocalTarget : private LocalRoom, public matrix {
  public:
   LocalTarget(int rows, int columns) : matrix(room(), rows, columns, 0.0) {}
@@ -42,7 +42,8 @@ class LocalTarget : private LocalRoom, public matrix {
       : matrix(room(), rows, columns, a, keepAll, Own()) {}
   LocalTarget(int rows, int columns, const int* a, bool) : matrix(room(), rows, columns, a) {}
   LocalTarget(int rows, int columns, const short* a, bool) : matrix(room(), rows, columns, a) {}
-  LocalTarget(int rows, int columns, double* a, InPlace) : matrix(room(), rows, columns, a, true) {}
+  LocalTarget(int rows, int columns, double* a, InPlace, bool keepAll = true)
+      : matrix(room(), rows, columns, a, keepAll) {}
   LocalTarget(const LocalTarget&) = delete;
   LocalTarget& operator=(const LocalTarget&) = delete;
 };

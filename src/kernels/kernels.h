@@ -218,7 +218,8 @@ struct Table {
   int distanceLanes;
 
   /// Squared distances of a row to that many others, the terms added in the order of the columns.
-  /// @return false as soon as none of them is below the bound; then they are not known to their end
+  /// @return false as soon as all of them have reached the bound (NaN: none does); then they are not known to
+  ///         their end
   bool (*distances)(const Distances& distances);
 };
 

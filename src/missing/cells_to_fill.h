@@ -7,10 +7,15 @@
 #include "core/Smatrix.h"
 #include "core/addressing.h"
 #include "core/matrix.h"
+#include "stats/usable.h"
 
 namespace missing {
 
-inline bool isMissing(const matrix& m, std::int64_t k) { return m.missing[k] || isMarker(m.values[k]); }
+inline bool isMissing(const matrix& m, std::int64_t k) {
+  static_assert(sizeof(bool) == sizeof(char));
+  const usable::Present present(m.values, reinterpret_cast<const char*>(m.missing));
+  return !present(static_cast<std::ptrdiff_t>(k));
+}
 inline bool isMissing(const Smatrix& m, std::int64_t k) { return m.cells[k].empty(); }
 
 /// visit(row, linear index) for the missing cells among the first n of a column, those inside the container.

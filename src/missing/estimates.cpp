@@ -14,19 +14,11 @@
 
 namespace {
 
-/// Rows that are learned from.
-struct Counts : usable::NotExcludedIfGiven {
-  Counts(const short* flags, const usable::WeightsOrOnes& weights)
-      : usable::NotExcludedIfGiven(flags), w(weights) {}
-  bool operator()(int i) const { return usable::NotExcludedIfGiven::operator()(i) && w[i] != 0.0; }
-
-  const usable::WeightsOrOnes& w;
-};
-
 /// Fills the missing cells of each column with valueOf(column), where that is one. All values are found
 /// before a cell is filled: columns of an extent beyond the container overlap.
 template <class Container, class ValueOf, class IsOne>
 void fillColumns(Container* a, int n, int p, ValueOf valueOf, IsOne isOne) {
+  if (n < 1) return;
   std::vector<decltype(valueOf(0))> values;
   values.reserve(static_cast<std::size_t>(std::max(p, 0)));
   for (int j = 0; j < p; ++j) values.push_back(valueOf(j));
@@ -48,7 +40,7 @@ void EstimateRowsWithMissingMeanPred(const matrix* learned, int m, matrix* a, in
   const block::Values values(learned, m, p);
   const block::Flags flagged(learned, m, p);
   const usable::WeightsOrOnes weights(w, m);
-  const Counts counts(flags, weights);
+  const usable::WeightedIfGiven counts(flags, weights);
   fillColumns(
       a, n, p,
       [&](int j) {
@@ -67,7 +59,7 @@ void EstimateRowsWithMissingMode(Smatrix* a, int n, int p, const short* flags, c
 void EstimateRowsWithMissingModePred(const Smatrix* learned, int m, Smatrix* a, int n, int p,
                                      const short* flags, const matrix* w) {
   const usable::WeightsOrOnes weights(w, m);
-  const Counts counts(flags, weights);
+  const usable::WeightedIfGiven counts(flags, weights);
   fillColumns(
       a, n, p,
       [&](int j) {

@@ -30,6 +30,13 @@ void flagRows(const Container* a, int n, int p, short* missing, short* allMissin
   }
 }
 
+template <class Container, class Value>
+void replaceMissing(Container* a, int n, int p, const Value& value) {
+  for (int j = 0; j < p; ++j) {
+    missing::forEachInColumn(a, n, j, [&](int, std::int64_t k) { missing::fill(*a, k, value); });
+  }
+}
+
 template <class IsFlagged>
 void summarize(int n, int* count, short* flagged, IsFlagged isFlagged) {
   int total = 0;
@@ -43,9 +50,10 @@ void summarize(int n, int* count, short* flagged, IsFlagged isFlagged) {
 
 /// The rows that remain, and how many the result has.
 struct Remaining {
-  Remaining(int n, int removed, const short* flags) {
+  Remaining(int n, int p, int removed, const short* flags) {
     const std::int64_t left = std::int64_t{std::max(n, 0)} - removed;
     count = static_cast<int>(std::clamp<std::int64_t>(left, 0, std::max(n, 0)));
+    if (p < 1) return;
     rows.reserve(static_cast<std::size_t>(count));
     usable::forEach(n, usable::NotExcludedIfGiven(flags), [&](int i) {
       if (rows.size() < static_cast<std::size_t>(count)) rows.push_back(i);
@@ -104,7 +112,7 @@ void SummarizeAllMissing(int n, const short* first, const short* second, int* co
 }
 
 void RemoveRowsWithMissing(const matrix* a, int n, int p, int removed, const short* flags, matrix*& out) {
-  const Remaining rows(n, removed, flags);
+  const Remaining rows(n, p, removed, flags);
   const block::Values cells(a, n, p);
   result::prepared(out, rows.count, p, 1, [&](block::Target& target) {
     result::fill(target, rows.count, p, [&](int j) {
@@ -114,22 +122,16 @@ void RemoveRowsWithMissing(const matrix* a, int n, int p, int removed, const sho
 }
 
 void RemoveRowsWithMissing(const Smatrix* a, int n, int p, int removed, const short* flags, Smatrix*& out) {
-  const Remaining rows(n, removed, flags);
+  const Remaining rows(n, p, removed, flags);
   Smatrix::matCheck(out, rows.count, p);
   texts::fill(*out,
               [&](int i, int j) { return rows.has(i) ? texts::cell(a, rows[i], j) : std::u16string_view(); });
 }
 
-void M_ReplaceMissingByVal(matrix* a, int n, int p, double value) {
-  for (int j = 0; j < p; ++j) {
-    missing::forEachInColumn(a, n, j, [&](int, std::int64_t k) { missing::fill(*a, k, value); });
-  }
-}
+void M_ReplaceMissingByVal(matrix* a, int n, int p, double value) { replaceMissing(a, n, p, value); }
 
 void M_ReplaceMissingByStr(Smatrix* a, int n, int p, const std::u16string& value) {
-  for (int j = 0; j < p; ++j) {
-    missing::forEachInColumn(a, n, j, [&](int, std::int64_t k) { missing::fill(*a, k, value); });
-  }
+  replaceMissing(a, n, p, value);
 }
 
 void M_SetWeightsToZeroForMissing(const matrix* a, int n, int p, matrix* w, int pW) {

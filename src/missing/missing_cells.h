@@ -2,7 +2,8 @@
 //
 // Tables are leading n x p blocks of a container. A number is missing when its flag is set or it holds
 // exactly the marker, a text when it is empty; cells outside the container are not missing, unless texts
-// are counted. Flags are arrays of n, any value but 0 counts; results are written as -1 and 0.
+// are counted. Flags are arrays of n, any value but 0 counts; results are written as -1 and 0. Resulting
+// tables are other containers than operands.
 #pragma once
 
 #include <string>
@@ -11,7 +12,8 @@
 #include "core/matrix.h"
 #include "platform/export.h"
 
-/// The missing cells of each column, and those that are not; with the rule of V_NbMissing.
+/// The missing cells of each column, and those that are not; 0 without rows. As for V_NbMissing a number is
+/// missing when its flag is set or it is not above the marker, so that -infinity counts.
 ///
 /// @param counts  p, out; null takes nothing
 KAV_API void M_NbMissing(const matrix* a, int n, int p, int* counts);

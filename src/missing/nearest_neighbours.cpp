@@ -76,6 +76,7 @@ struct Donors {
   std::ptrdiff_t stride;       ///< rows, filled up to whole groups of lanes by ones without cells
   std::vector<double> cells;   ///< cell (k, j) at k + stride j
   std::vector<double> ranges;  ///< of the columns; 0.0 for labels
+  std::vector<char> columns;   ///< whether a column has a cell to give
 
   bool has(std::ptrdiff_t k, int j) const {
     const double cell = cells[static_cast<std::size_t>(k + stride * j)];
@@ -99,14 +100,17 @@ Donors readDonors(const Tables& learned, const Widths& widths, const short* flag
   for (int j = 0; j < widths.all(); ++j) {
     double* column = donors.cells.data() + donors.stride * j;
     double least = kFar, most = -kFar;
+    bool any = false;
     readColumn(learned, widths, j, codes, [&](int i, double cell) {
       const int k = place[static_cast<std::size_t>(i)];
       if (k < 0) return;
       column[k] = cell;
+      any = any || cell == cell;
       least = cell < least ? cell : least;
       most = cell > most ? cell : most;
     });
     donors.ranges.push_back(j < widths.allNumbers() && least < most ? most - least : 0.0);
+    donors.columns.push_back(any);
   }
   return donors;
 }
@@ -114,26 +118,28 @@ Donors readDonors(const Tables& learned, const Widths& widths, const short* flag
 /// A missing cell, and the best donor so far.
 struct Wanted {
   int column;
-  double distance = kFar;
+  double distance = 0.0;
   std::ptrdiff_t donor = -1;
 };
 
-/// A row with missing cells.
+/// A row that wants cells.
 struct Recipient {
   int row;
   std::size_t firstWanted, wanted;  ///< of the list of all wanted cells
 };
 
-/// The rows with missing cells: their cells row after row, and what they want.
+/// The rows that want cells: their cells row after row, and what they want.
 struct Recipients {
   std::vector<Recipient> rows;
   std::vector<double> cells;
   std::vector<Wanted> wanted;
 };
 
+/// The missing cells that a donor can fill.
 template <class Visit>
-void forEachMissing(const Tables& tables, const Widths& widths, Visit visit) {
+void forEachWanted(const Tables& tables, const Widths& widths, const Donors& donors, Visit visit) {
   for (int j = 0; j < widths.all(); ++j) {
+    if (!donors.columns[static_cast<std::size_t>(j)]) continue;
     const auto report = [&](int i, std::int64_t) { visit(i, j); };
     if (j < widths.allNumbers()) {
       missing::forEachInColumn(tables.numbers[widths.tableOf(j)], tables.n, widths.columnIn(j), report);
@@ -143,9 +149,9 @@ void forEachMissing(const Tables& tables, const Widths& widths, Visit visit) {
   }
 }
 
-Recipients readRecipients(const Tables& tables, const Widths& widths, Codes& codes) {
+Recipients readRecipients(const Tables& tables, const Widths& widths, const Donors& donors, Codes& codes) {
   std::vector<int> missing(static_cast<std::size_t>(std::max(tables.n, 0)));
-  forEachMissing(tables, widths, [&](int i, int) { ++missing[static_cast<std::size_t>(i)]; });
+  forEachWanted(tables, widths, donors, [&](int i, int) { ++missing[static_cast<std::size_t>(i)]; });
   Recipients recipients;
   std::vector<int> place(missing.size(), -1);
   std::size_t wanted = 0;
@@ -157,7 +163,7 @@ Recipients readRecipients(const Tables& tables, const Widths& widths, Codes& cod
     wanted += static_cast<std::size_t>(count);
   }
   recipients.wanted.resize(wanted);
-  forEachMissing(tables, widths, [&](int i, int j) {
+  forEachWanted(tables, widths, donors, [&](int i, int j) {
     Recipient& r = recipients.rows[static_cast<std::size_t>(place[static_cast<std::size_t>(i)])];
     recipients.wanted[r.firstWanted + r.wanted++].column = j;
   });
@@ -172,12 +178,14 @@ Recipients readRecipients(const Tables& tables, const Widths& widths, Codes& cod
   return recipients;
 }
 
-/// The largest distance at which a donor can still win a cell.
+/// The distance from which on a donor can win no cell; NaN while there is a cell without donor.
 double boundOf(const Recipient& r, const Recipients& all) {
-  const Wanted* first = all.wanted.data() + r.firstWanted;
-  return std::max_element(first, first + r.wanted,
-                          [](const Wanted& a, const Wanted& b) { return a.distance < b.distance; })
-      ->distance;
+  double bound = 0.0;
+  for (std::size_t c = r.firstWanted; c < r.firstWanted + r.wanted; ++c) {
+    if (all.wanted[c].donor < 0) return kAbsent;
+    bound = std::max(bound, all.wanted[c].distance);
+  }
+  return bound;
 }
 
 /// Compares a row with donors begin .. end-1, whole groups of lanes.
@@ -198,10 +206,11 @@ void compare(const Donors& donors, std::ptrdiff_t begin, std::ptrdiff_t end, std
     run.rows = donors.cells.data() + k;
     if (!kernel.distances(run)) continue;
     for (int lane = 0; lane < kernel.distanceLanes; ++lane) {
-      if (!(squared[lane] < run.bound)) continue;
+      if (squared[lane] >= run.bound) continue;
       for (std::size_t c = r.firstWanted; c < r.firstWanted + r.wanted; ++c) {
         Wanted& cell = recipients.wanted[c];
-        if (!(squared[lane] < cell.distance) || !donors.has(k + lane, cell.column)) continue;
+        const bool isNearer = cell.donor < 0 || squared[lane] < cell.distance;
+        if (!isNearer || !donors.has(k + lane, cell.column)) continue;
         cell.distance = squared[lane];
         cell.donor = k + lane;
       }
@@ -227,11 +236,12 @@ void EstimateRowsWithMissingNN(matrix* table1, int n, int p1, const short* flags
 void EstimateRowsWithMissingNNPred(const matrix* learned1, int m, matrix* table1, int n, int p1,
                                    const short* flags, const matrix* learned2, matrix* table2, int p2,
                                    const Smatrix* learned3, Smatrix* table3, int p3, const matrix* w) {
+  if (n < 1) return;
   const Widths widths{{std::max(p1, 0), std::max(p2, 0)}, std::max(p3, 0)};
   const Tables learned{{learned1, learned2}, learned3, m};
   Codes codes;
   const Donors donors = readDonors(learned, widths, flags, w, kernels::best().distanceLanes, codes);
-  Recipients recipients = readRecipients({{table1, table2}, table3, n}, widths, codes);
+  Recipients recipients = readRecipients({{table1, table2}, table3, n}, widths, donors, codes);
   findDonors(donors, recipients);
 
   matrix* const numbers[] = {table1, table2};

@@ -11,8 +11,8 @@
 //     d(j) = 0 or 1           for equal or different labels, also for numbers where that range is 0
 //
 // Each missing cell gets the cell of the donor that has it and is nearest by d^2, of equally near ones the
-// first. It stays missing when there is none, or none at a finite distance. Filled cells teach nothing, and a
-// cell that is NaN without being missing is never given.
+// first. It stays missing when there is none. Filled cells teach nothing, and a cell that is NaN without
+// being missing is never given. An infinite range makes all finite numbers equal.
 //
 // Cost: rows with missing cells x donors x columns at most; a distance is given up when it cannot win.
 #pragma once

@@ -13,13 +13,16 @@ std::uint64_t splitMix64(std::uint64_t& state) {
   return z ^ (z >> 31);
 }
 
+/// Odd, so that its multiples are all seeds; near the golden section of 2^32, so that they lie apart.
+constexpr std::uint32_t kSeedStep = 0x9E3779B9;
+
 /// Bits of a draw.
 constexpr int kBits = 53;
 
 }  // namespace
 
-RandomNumbers::RandomNumbers(std::int32_t seed) {
-  std::uint64_t state = static_cast<std::uint32_t>(seed);
+RandomNumbers::RandomNumbers(std::int32_t seed) : seed_(static_cast<std::uint32_t>(seed)) {
+  std::uint64_t state = seed_;
   for (std::uint64_t& word : state_) word = splitMix64(state);
 }
 
@@ -44,8 +47,8 @@ int RandomNumbers::below(int n) {
   return static_cast<int>(draw % count);
 }
 
-void RandomNumbers::GetSeedUpdate(std::int32_t* next) {
-  if (next != nullptr) *next = static_cast<std::int32_t>(static_cast<std::uint32_t>(this->next() >> 32));
+void RandomNumbers::GetSeedUpdate(std::int32_t* next) const {
+  if (next != nullptr) *next = static_cast<std::int32_t>(seed_ + kSeedStep);
 }
 
 std::uint64_t RandomNumbers::next() {

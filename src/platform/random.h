@@ -27,11 +27,13 @@ class RandomNumbers {
   /// A whole number from 0 .. n-1, every one exactly as likely as the others; n at least 1.
   int below(int n);
 
-  /// A seed drawn from this sequence: a next call that starts from it goes on with fresh draws.
-  void GetSeedUpdate(std::int32_t* next);
+  /// A seed for a next call, which goes on with fresh draws: a chain of calls comes back to its first seed
+  /// only after all 2^32 of them. Null takes nothing.
+  void GetSeedUpdate(std::int32_t* next) const;
 
  private:
   std::uint64_t next();
 
+  std::uint32_t seed_;
   std::uint64_t state_[4];
 };

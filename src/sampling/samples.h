@@ -2,8 +2,8 @@
 //
 // Every scheme hands back the positions of its rows (idx, `size` x 1, 1-based) and the rows themselves (out,
 // `size` x p), both prepared: a container of that shape is refilled, any other pointer receives a new one. A
-// size below 1 draws nothing. Where a scheme has no row to give - it takes every row once at most, and the
-// table has fewer - idx holds the marker and the row is empty.
+// size below 1 draws nothing. Results are other containers than the table. Where a scheme has no row to give
+// - it takes every row once at most, and the table has fewer - idx holds the marker and the row is empty.
 //
 // Systematic and stratified samples cut the table into `size` intervals of consecutive rows, as equal as they
 // can be: interval k (0-based) is rows floor(k n / size) .. floor((k + 1) n / size) - 1. A table with fewer

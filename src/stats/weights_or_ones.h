@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/block.h"
+#include "stats/usable.h"
 
 namespace usable {
 
@@ -22,6 +23,14 @@ class WeightsOrOnes {
   block::Values given_;
   std::vector<double> ones_;
   const double* weights_;
+};
+
+/// C where flags and weights may be left out.
+struct WeightedIfGiven : NotExcludedIfGiven {
+  WeightedIfGiven(const short* flags, const WeightsOrOnes& weights) : NotExcludedIfGiven(flags), w(weights) {}
+  bool operator()(std::ptrdiff_t i) const { return NotExcludedIfGiven::operator()(i) && w[i] != 0.0; }
+
+  const WeightsOrOnes& w;
 };
 
 }  // namespace usable

@@ -188,11 +188,12 @@ TEST(Kernels, DistancesEqualTheirDefinitionBitForBit) {
         expected[lane] += std::isnan(d) ? 1.0 : d * d;
       }
       const double least = *std::min_element(expected.begin(), expected.end() - 1);
-      const double bounds[] = {least, std::nextafter(least, 1e9), expected[0], HUGE_VAL, 0.0, least / 2.0};
-      const double bound = bounds[random.below(6)];
+      const double bounds[] = {least, std::nextafter(least, 1e9), expected[0], HUGE_VAL, 0.0, least / 2.0,
+                               few[2]};
+      const double bound = bounds[random.below(7)];
       const bool known =
           kernel.distances({&rows[0], stride, columns, &row[0], &ranges[0], bound, &squared[0]});
-      EXPECT_EQ(known, least < bound) << columns;
+      EXPECT_EQ(known, !(least >= bound)) << columns;
       EXPECT_TRUE(bits::equal(known ? squared : expected, expected)) << columns;
     });
   }

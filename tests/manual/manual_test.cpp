@@ -75,5 +75,6 @@ TEST(Manual, WhatIsWrongIsFound) {
   EXPECT_THAT(faultsOf("VB_V_Sum2Dbl({1, 2}) -> 3"), ElementsAre(HasSubstr("arguments")));
   EXPECT_THAT(faultsOf("VB_V_Sum9({1}, 1) -> 1"), ElementsAre(HasSubstr("no such entry")));
   EXPECT_THAT(faultsOf("VB_V_Sum2Dbl({1, 2"), ElementsAre(HasSubstr("open bracket")));
+  EXPECT_THAT(manual::runExamples("```example\nx = {1,").faults, ElementsAre(HasSubstr("no end")));
   EXPECT_THAT(faultsOf("x = {1, 2; 3}"), ElementsAre(HasSubstr("different lengths")));
 }

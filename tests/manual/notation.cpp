@@ -204,6 +204,7 @@ std::vector<std::vector<Statement>> readExamples(const std::string& text) {
     blocks.back().back().line = first;
     pending.clear();
   }
+  if (inside) throw Fault("the last example has no end");
   return blocks;
 }
 

@@ -56,7 +56,7 @@ std::unique_ptr<matrix> byDefinition(const matrix& rows, int n, int p, const mat
                                      const short* flags, const matrix* w) {
   const auto at = [](const matrix& of, int i, int j) { return of.values[i + of.nX * j]; };
   auto filled = copyOf(rows);
-  std::vector<double> ranges, nearest(n * rows.pX, kInfinity);
+  std::vector<double> ranges, nearest(n * rows.pX, std::nan(""));
   std::vector<int> donors;
   for (int k = 0; k < m; ++k) {
     if (!(flags && flags[k]) && (!w || w->values[k] > 0.0)) donors.push_back(k);
@@ -80,7 +80,7 @@ std::unique_ptr<matrix> byDefinition(const matrix& rows, int n, int p, const mat
     }
     for (int j = 0; j < rows.pX; ++j) {
       const double y = at(learned, k, j);
-      if (at(rows, i, j) != kMissing || y == kMissing || y != y || !(sum < nearest[i + n * j])) continue;
+      if (at(rows, i, j) != kMissing || y == kMissing || y != y || sum >= nearest[i + n * j]) continue;
       nearest[i + n * j] = sum, filled->setElement(i, j, y);
     }
   }

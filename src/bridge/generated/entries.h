@@ -1102,7 +1102,7 @@ void VB_EstimateRowsWithMissingMean(double* ioTable, int n, int p, VARIANT_BOOL*
 void VB_EstimateRowsWithMissingMode(BSTR* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w);
 
 /// Fills the missing cells of the three tables in place from the nearest row over all of them that has
-/// the wanted cell and a weight above 0; ties go to the first row.
+/// the cell, no flag and a weight above 0; ties go to the first row.
 void VB_EstimateRowsWithMissingNN(
     double* iTable1Dbl, int n, int p1, VARIANT_BOOL* iMissing, double* iTable2Dbl, int p2, BSTR* iTable3Str,
     int p3, double* w);
@@ -1118,7 +1118,8 @@ void VB_EstimateRowsWithMissingModePred(
     BSTR* iTable, int nin, BSTR* ioTable, int n, int p, VARIANT_BOOL* iMissing, double* w);
 
 /// Fills the missing cells of the three n-row tables in place from the nearest of the nin rows of the
-/// learning tables (names in ii) that has the wanted cell; ties go to the first row.
+/// learning tables (names in ii) that has the cell, no flag and a weight above 0; ties go to the first
+/// row.
 void VB_EstimateRowsWithMissingNNPred(
     double* iiTable1Dbl, int nin, double* iTable1Dbl, int n, int p1, VARIANT_BOOL* iMissing,
     double* iiTable2Dbl, double* iTable2Dbl, int p2, BSTR* iiTable3Str, BSTR* iTable3Str, int p3, double* w);

@@ -42,8 +42,8 @@ bool distances(const Distances& d) {
       }
     }
     if (j % kColumnsAtOnce != kColumnsAtOnce - 1 && j != d.columns - 1) continue;
-    Bits canWin = sums[0] < bound;
-    for (Index v = 1; v < kDistanceVectors; ++v) canWin |= sums[v] < bound;
+    Bits canWin = ~(sums[0] >= bound);
+    for (Index v = 1; v < kDistanceVectors; ++v) canWin |= ~(sums[v] >= bound);
     if (!anySet(canWin)) return false;
   }
   for (Index v = 0; v < kDistanceVectors; ++v) store(d.squared + v * kLanes, sums[v]);
