@@ -1,6 +1,7 @@
 #include "missing/nearest_neighbours.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <string_view>
 #include <unordered_map>
@@ -78,10 +79,8 @@ struct Donors {
   std::vector<double> ranges;  ///< of the columns; 0.0 for labels
   std::vector<char> columns;   ///< whether a column has a cell to give
 
-  bool has(std::ptrdiff_t k, int j) const {
-    const double cell = cells[static_cast<std::size_t>(k + stride * j)];
-    return cell == cell;
-  }
+  double at(std::ptrdiff_t k, int j) const { return cells[static_cast<std::size_t>(k + stride * j)]; }
+  bool has(std::ptrdiff_t k, int j) const { return at(k, j) == at(k, j); }
 };
 
 Donors readDonors(const Tables& learned, const Widths& widths, const short* flags, const matrix* w, int lanes,
@@ -226,6 +225,26 @@ void findDonors(const Donors& donors, Recipients& recipients) {
   }
 }
 
+void fillCells(const Recipients& recipients, const Donors& donors, const Widths& widths,
+               const Smatrix* learnedLabels, const std::array<matrix*, 2>& numbers, Smatrix* labels) {
+  for (const Recipient& r : recipients.rows) {
+    for (std::size_t c = r.firstWanted; c < r.firstWanted + r.wanted; ++c) {
+      const Wanted& cell = recipients.wanted[c];
+      if (cell.donor < 0) continue;
+      if (cell.column < widths.allNumbers()) {
+        matrix& table = *numbers[static_cast<std::size_t>(widths.tableOf(cell.column))];
+        missing::fill(table, addressing::linearIndex(r.row, widths.columnIn(cell.column), table.nX),
+                      donors.at(cell.donor, cell.column));
+      } else {
+        const int column = cell.column - widths.allNumbers();
+        const int donor = donors.rows[static_cast<std::size_t>(cell.donor)];
+        missing::fill(*labels, addressing::linearIndex(r.row, column, labels->nX),
+                      texts::cell(learnedLabels, donor, column));
+      }
+    }
+  }
+}
+
 }  // namespace
 
 void EstimateRowsWithMissingNN(matrix* table1, int n, int p1, const short* flags, matrix* table2, int p2,
@@ -243,23 +262,5 @@ void EstimateRowsWithMissingNNPred(const matrix* learned1, int m, matrix* table1
   const Donors donors = readDonors(learned, widths, flags, w, kernels::best().distanceLanes, codes);
   Recipients recipients = readRecipients({{table1, table2}, table3, n}, widths, donors, codes);
   findDonors(donors, recipients);
-
-  matrix* const numbers[] = {table1, table2};
-  for (const Recipient& r : recipients.rows) {
-    for (std::size_t c = r.firstWanted; c < r.firstWanted + r.wanted; ++c) {
-      const Wanted& cell = recipients.wanted[c];
-      if (cell.donor < 0) continue;
-      const int donor = donors.rows[static_cast<std::size_t>(cell.donor)];
-      if (cell.column < widths.allNumbers()) {
-        const std::size_t at = static_cast<std::size_t>(cell.donor + donors.stride * cell.column);
-        matrix& table = *numbers[widths.tableOf(cell.column)];
-        missing::fill(table, addressing::linearIndex(r.row, widths.columnIn(cell.column), table.nX),
-                      donors.cells[at]);
-      } else {
-        const int column = cell.column - widths.allNumbers();
-        missing::fill(*table3, addressing::linearIndex(r.row, column, table3->nX),
-                      texts::cell(learned3, donor, column));
-      }
-    }
-  }
+  fillCells(recipients, donors, widths, learned3, {table1, table2}, table3);
 }
