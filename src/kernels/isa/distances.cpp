@@ -26,7 +26,7 @@ constexpr Index kColumnsAtOnce = 4;
 
 bool distances(const Distances& d) {
   Vector sums[kDistanceVectors];
-  for (Vector& sum : sums) sum = spread(0.0);
+  for (Index v = 0; v < kDistanceVectors; ++v) sums[v] = spread(0.0);
   const Vector one = spread(1.0), bound = spread(d.bound);
   for (Index j = 0; j < d.columns; ++j) {
     const Vector x = spread(d.row[j]), range = spread(d.ranges[j]);
