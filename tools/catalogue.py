@@ -190,11 +190,8 @@ def linux_exports(entries, natives):
 
 def tests_table(entries):
     def row(e):
-        parameters = "".join(
-            f'\n         {{"{p.name}", "{p.type}{"*" if p.by_reference else ""}", "{p.direction}"}},'
-            for p in e.parameters
-        )
-        return f'    {{{e.ordinal},\n     "{e.name}",\n     "{e.result}",\n     {{{parameters}\n     }}}},'
+        parameters = "".join(f"[{p.direction}] {p.type}{'*' if p.by_reference else ''} {p.name};" for p in e.parameters)
+        return f'    {{{e.ordinal}, "{e.name}", "{e.result}",\n     "{parameters}"}},'
 
     return f"// {DERIVED}\n// clang-format off\n" + "\n".join(row(e) for e in entries) + "\n"
 
@@ -206,7 +203,7 @@ def test_prototypes(entries):
 // clang-format off
 #pragma once
 
-#include "manual/calls.h"
+#include "platform/ole.h"
 
 extern "C" {{
 {lines}
@@ -215,13 +212,7 @@ extern "C" {{
 
 
 def test_calls(entries):
-    def row(e):
-        parameters = ", ".join(
-            f'{{"{p.name}", "{p.type}{"*" if p.by_reference else ""}", {"true" if "out" in p.direction else "false"}}}'
-            for p in e.parameters)
-        return f'    {{"{e.name}", entryOf(&{e.name}, {{{parameters}}})}},'
-
-    return f"// {DERIVED}\n// clang-format off\n" + "\n".join(row(e) for e in entries) + "\n"
+    return f"// {DERIVED}\n// clang-format off\n" + "".join(f"    {{&{e.name}}},\n" for e in entries)
 
 
 # ---- for macro authors ----
@@ -296,7 +287,7 @@ def derived_files():
         GENERATED / "KAVORATB1C.win32-callers.def": windows_exports(entries, natives, Entry.decorated),
         GENERATED / "KAVORATB1C.win64.def": windows_exports(entries, natives, lambda e: e.name),
         GENERATED / "KAVORATB1C.map": linux_exports(entries, natives),
-        ROOT / "tests" / "windows" / "generated" / "catalogue.inc": tests_table(entries),
+        ROOT / "tests" / "support" / "generated" / "catalogue.inc": tests_table(entries),
         ROOT / "tests" / "manual" / "generated" / "prototypes.h": test_prototypes(entries),
         ROOT / "tests" / "manual" / "generated" / "entries.inc": test_calls(entries),
         ROOT / "docs" / "KAVORATB1C.bas": basic_module(entries),

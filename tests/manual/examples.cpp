@@ -216,9 +216,9 @@ class Block {
   }
 
   void call(const Statement& s, Outcome& outcome) {
-    const auto found = entries().find(s.name);
-    if (found == entries().end()) throw Fault("no such entry");
-    const Entry& entry = found->second;
+    const CatalogueEntry* found = find(s.name);
+    if (found == nullptr) throw Fault("no such entry");
+    const CatalogueEntry& entry = *found;
     if (entry.parameters.size() != s.arguments.size()) {
       throw Fault(std::to_string(s.arguments.size()) + " arguments for " +
                   std::to_string(entry.parameters.size()));
@@ -232,12 +232,13 @@ class Block {
         passed[k] = &arrays.back();
       }
     }
-    const Result result = entry.call(actuals);
+    const Result result = manual::call(entry, actuals);
     for (const auto& [k, array] : passed) {
-      const Parameter& parameter = entry.parameters[k];
+      const CatalogueParameter& parameter = entry.parameters[k];
+      const bool isWritten = parameter.direction != "in";
       if (array->wasOverrun()) throw Fault("writes beyond the end of " + parameter.name);
-      if (!parameter.written && array->wasWritten()) throw Fault("writes to " + parameter.name);
-      if (!parameter.written || s.arguments[k].kind != Expression::Kind::Name) continue;
+      if (!isWritten && array->wasWritten()) throw Fault("writes to " + parameter.name);
+      if (!isWritten || s.arguments[k].kind != Expression::Kind::Name) continue;
       variables_[s.arguments[k].name] = array->cells();
       writers_[s.arguments[k].name] = s.name;
     }
@@ -247,11 +248,11 @@ class Block {
     outcome.shown.insert(s.name);
   }
 
-  Actual actual(const Parameter& parameter, const Expression& e, std::deque<Array>& arrays) const {
+  Actual actual(const CatalogueParameter& parameter, const Expression& e, std::deque<Array>& arrays) const {
     const bool isArray = parameter.type.back() == '*';
     if (e.kind == Expression::Kind::Null) return null(parameter.type);
     const bool isFresh =
-        e.kind == Expression::Kind::Name && parameter.written && variables_.count(e.name) == 0;
+        e.kind == Expression::Kind::Name && parameter.direction != "in" && variables_.count(e.name) == 0;
     const Cells cells = isFresh ? fresh(e.name) : value(e);
     if (isArray || parameter.type == "BSTR") {
       arrays.emplace_back(isArray ? parameter.type : "BSTR*", cells);

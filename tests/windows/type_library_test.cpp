@@ -4,8 +4,8 @@
 
 #include <map>
 
+#include "support/catalogue.h"
 #include "windows/any_entry.h"
-#include "windows/catalogue.h"
 
 namespace {
 

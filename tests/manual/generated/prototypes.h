@@ -2,7 +2,7 @@
 // clang-format off
 #pragma once
 
-#include "manual/calls.h"
+#include "platform/ole.h"
 
 extern "C" {
 double KAV_MACRO_CALL VB_V_Sum(double* iVector, int n, VARIANT_BOOL* iMissing, double* w);

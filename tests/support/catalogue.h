@@ -17,9 +17,4 @@ struct CatalogueEntry {
   std::vector<CatalogueParameter> parameters;
 };
 
-inline const std::vector<CatalogueEntry>& catalogue() {
-  static const std::vector<CatalogueEntry> entries = {
-#include "windows/generated/catalogue.inc"
-  };
-  return entries;
-}
+const std::vector<CatalogueEntry>& catalogue();
