@@ -11,8 +11,7 @@ target_compile_options(kav_compile INTERFACE
   -msse2 -mfpmath=sse -ffp-contract=off
   # No path of the building machine in the products.
   -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.
-  $<$<BOOL:${KAV_STRICT}>:-Werror>
-  $<$<CONFIG:Release>:-O3>)
+  $<$<BOOL:${KAV_STRICT}>:-Werror>)
 
 if(KAV_SANITIZE)
   target_compile_options(kav_compile INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all)
