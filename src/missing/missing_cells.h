@@ -1,9 +1,9 @@
 // Missing cells of tables: counted, flagged, replaced, their rows removed.
 //
 // Tables are leading n x p blocks of a container. A number is missing when its flag is set or it holds
-// exactly the marker, a text when it is empty; cells outside the container are not missing, unless texts
-// are counted. Flags are arrays of n, any value but 0 counts; results are written as -1 and 0. Resulting
-// tables are other containers than operands.
+// exactly the marker, a text when it is empty; cells outside the container are not missing, but
+// M_NbMissing counts texts there, as V_NbMissing does. Flags are arrays of n, any value but 0 counts; results
+// are written as -1 and 0. Resulting tables are other containers than operands.
 #pragma once
 
 #include <string>
