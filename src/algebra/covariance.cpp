@@ -392,7 +392,7 @@ void M_Inertie_W(const matrix* a, int n, int p, const matrix* weights, const mat
   const Rows rows(n, nullptr, weights);
   const block::Values cells(a, n, p), classOf(classes, classes == nullptr ? 0 : n);
   matrix::matCheck(result, p, p, 0.0);
-  std::vector<double> used, factors;
+  std::vector<double> factors;
   matrix kept(n, p);
   int count = 0;
   for (std::size_t r = 0; r < rows.row.size(); ++r) {

@@ -301,7 +301,7 @@ void M_Standardize(const matrix* a, int n, int p, matrix*& out, matrix*& means, 
                    matrix*& variances, const short* rowFlags, const matrix* weights, short unbiased,
                    short frequencyWeights) {
   M_MeanStDevVar(a, n, p, means, stdevs, variances, rowFlags, weights, unbiased, frequencyWeights);
-  prepare(out, n, p);
+  if (!result::isWhole(out, n, p)) matrix::matCheck(out, n, p, 0.0);
   transform(a, n, p, means, stdevs, out, standardized);
 }
 

@@ -14,7 +14,9 @@
 /// returns -1.0; i and j are not looked at separately. A flagged cell cannot be overwritten by the element
 /// writers.
 ///
-/// The object owns its nine arrays. They are made once, at construction, and never grow. Members that give
+/// The object owns its nine arrays. They are made once, at construction, and never grow. Their pointers must
+/// not be re-pointed: all nine lie in one block of memory, which the destructor finds through them. Members
+/// that give
 /// another container a new shape ask that it was built with at least that many cells, and leave it alone
 /// otherwise. Where such a shape has more rows or columns than the container was built with, the rows and
 /// columns beyond have no weights, counts or statistics: readers treat them as outside.
@@ -158,9 +160,10 @@ class KAV_API matrix {
   double weighting(const double* s, int n);
 
   /// Inverse of the nX x nX matrix: LU decomposition with implicit scaling and partial pivoting (Crout, as in
-  /// Press et al., Numerical Recipes, section 2.3), of equal pivots the last.
+  /// Press et al., Numerical Recipes, section 2.3), of equal pivots the last. A flagged cell counts as 0.0.
   ///
-  /// @param out       receives the inverse by the element rule; as it was when singular; may be this matrix
+  /// @param out       receives the inverse by the element rule, column by column; unchanged when singular;
+  ///                  may be this matrix
   /// @param singular  set to -1 when singular, else as it was
   /// @param tol       only its sign counts: pivots up to 1e-8 in absolute value are zero when it is above
   ///                  0, up to 2.220446049250313e-16 otherwise
@@ -216,7 +219,8 @@ class KAV_API matrix {
   double VDiff(int col, const matrix* other, int otherCol) const;
   double MDiff(const matrix* other) const;
 
-  /// Weighted mean of the present cells of a column; the marker when there is none.
+  /// Weighted mean of the present cells of a column whose row has a weight other than 0.0; the marker when
+  /// there is none.
   double calcMu(int j) const;
 
   /// Every cell x becomes 1 - x.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 #include "core/block.h"
@@ -24,7 +25,7 @@ class LuDecomposition {
         cells_(addressing::elementsInMemory<double>(n_, n_)),
         places_(static_cast<std::size_t>(n_)),
         panels_(cells_.data(), n_) {
-    block::copyTo(block::Values(&a, n_, n_), n_, n_, cells_.data());
+    copyCells(a);
     singular_ = !decompose(pivotThreshold(tol));
   }
 
@@ -36,22 +37,37 @@ class LuDecomposition {
     const std::vector<double> y = inverseOfLower();
     const kernels::Table& kernel = kernels::best();
     Scratch<double> x(static_cast<std::size_t>(std::ptrdiff_t{n_} * kernel.sides));
+    // Column c of the inverse comes from the unit vector that the exchanges took to place stepOf[c].
+    std::vector<int> stepOf(places_.size());
+    for (int step = 0; step < n_; ++step) {
+      stepOf[static_cast<std::size_t>(places_[static_cast<std::size_t>(step)])] = step;
+    }
     for (int first = 0; first < n_; first += kernel.sides) {
       const int count = std::min(kernel.sides, n_ - first);
       for (int i = 0; i < n_; ++i) {
         double* row = x.data() + std::ptrdiff_t{kernel.sides} * i;
-        std::copy_n(y.data() + std::ptrdiff_t{n_} * i + first, count, row);
+        const double* known = y.data() + std::ptrdiff_t{n_} * i;
+        std::transform(stepOf.data() + first, stepOf.data() + first + count, row,
+                       [=](int step) { return known[step]; });
         std::fill(row + count, row + kernel.sides, 0.0);
       }
       kernel.backSubstitute(u.data(), n_, x.data());
       for (int c = 0; c < count; ++c) {
-        const int target = places_[static_cast<std::size_t>(first) + static_cast<std::size_t>(c)];
-        for (int i = 0; i < n_; ++i) out.setElement(i, target, x[std::ptrdiff_t{kernel.sides} * i + c]);
+        for (int i = 0; i < n_; ++i) out.setElement(i, first + c, x[std::ptrdiff_t{kernel.sides} * i + c]);
       }
     }
   }
 
  private:
+  /// A flagged cell counts as 0.0, one outside the container reads -1.0.
+  void copyCells(const matrix& a) {
+    const std::int64_t inside = std::min<std::int64_t>(addressing::cellCount(a), std::ssize(cells_));
+    for (std::int64_t k = 0; k < inside; ++k) {
+      cells_[static_cast<std::size_t>(k)] = a.missing[k] ? 0.0 : a.values[k];
+    }
+    std::fill(cells_.begin() + inside, cells_.end(), kOutside);
+  }
+
   double* column(int j) { return cells_.data() + std::ptrdiff_t{n_} * j; }
   const double* column(int j) const { return cells_.data() + std::ptrdiff_t{n_} * j; }
 

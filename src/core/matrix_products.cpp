@@ -86,7 +86,8 @@ double matrix::calcMu(int j) const {
   moments::Moments m;
   for (int i = 0; i < nX; ++i) {
     if (!addressing::isInside(*this, addressing::linearIndex(i, j, nX)) || getMissing(i, j)) continue;
-    m.add(getElement(i, j), storage::rowWeight(*this, i));
+    const double weight = storage::rowWeight(*this, i);
+    if (weight != 0.0) m.add(getElement(i, j), weight);
   }
   return m.count() == 0.0 ? kMissing : m.mean();
 }

@@ -12,14 +12,14 @@
 
 namespace bidiagonal {
 
-/// What a singular value decomposition computes, from its job code.
+/// What a singular value decomposition computes, from its job code; a code below 0 is taken as 0.
 struct Job {
   Job(int rows, int columns, int job)
       : n(rows),
         p(columns),
-        left(job % 100 / 10 != 0),
-        right(job % 10 != 0),
-        leftColumns(job % 100 / 10 > 1 ? std::min(n, p) : n) {}
+        left(std::max(job, 0) % 100 / 10 != 0),
+        right(std::max(job, 0) % 10 != 0),
+        leftColumns(std::max(job, 0) % 100 / 10 > 1 ? std::min(n, p) : n) {}
 
   int n, p;
   bool left, right;

@@ -23,7 +23,8 @@ KAV_API int M_Eigen(const matrix* a, matrix*& values, matrix*& vectors, int n, i
 /// at most `most`; those not below kaiser + 1e-12. A criterion that is not above 0 asks for nothing.
 ///
 /// @param values       n cells
-/// @param drop         0: only the last value is looked at, and set to 0.0 when it is below the minimum
+/// @param drop         on only when -1; off, only the last value is looked at, and set to 0.0 when it is
+///                     below the minimum
 /// @param percentages  prepared, n x 1: of the sum of the kept values
 /// @return 0
 KAV_API int FilterEigen(matrix*& values, int n, short drop, double minimum, double cumulative, int most,

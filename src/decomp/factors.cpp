@@ -20,7 +20,7 @@ int keptOf(matrix* values, int n, short drop, double minimum) {
   while (kept > 1) {
     const double last = values == nullptr ? kOutside : values->getElement(kept - 1);
     if (last >= minimum) break;
-    if (drop != kFalse) {
+    if (drop == kTrue) {
       --kept;
     } else {
       if (values != nullptr) values->setElement(kept - 1, 0, 0.0);

@@ -21,9 +21,10 @@ inline bool isMissing(const Smatrix& m, std::int64_t k) { return m.cells[k].empt
 /// visit(row, linear index) for the missing cells among the first n of a column, those inside the container.
 template <class Container, class Visit>
 void forEachInColumn(const Container* m, int n, int column, Visit visit) {
-  if (m == nullptr) return;
+  const std::int64_t cells = m == nullptr ? 0 : addressing::cellCount(*m);
+  if (cells == 0) return;
   const std::int64_t begin = addressing::linearIndex(0, column, m->nX);
-  const std::int64_t count = std::clamp<std::int64_t>(addressing::cellCount(*m) - begin, 0, std::max(n, 0));
+  const std::int64_t count = std::clamp<std::int64_t>(cells - begin, 0, std::max(n, 0));
   for (std::int64_t i = 0; i < count; ++i) {
     if (isMissing(*m, begin + i)) visit(static_cast<int>(i), begin + i);
   }

@@ -47,16 +47,16 @@ void flagMarkers(const double* values, bool* flags, int count) {
   for (int k = 0; k < count; ++k) flags[k] = flags[k] || isMarker(values[k]);
 }
 
-/// Rows beyond the table read -1.0, or run on into the next column.
+/// Rows beyond the table read -1.0, or run on into the next column: where rows share a cell the last one
+/// written counts.
 void permuteBeyond(matrix* table, int columns, const Range& span, const RowOrder& order) {
-  const block::Values before(table, span.end, columns);
-  block::Target target(table, span.end, columns);
-  Scratch<double> column(static_cast<std::size_t>(span.count()));
-  for (int j = 0; j < columns; ++j) {
-    std::copy_n(before.column(j) + span.begin, span.count(), column.data());
-    gather(column.data(), order.rows(), span.count(), target.column(j) + span.begin);
+  const block::Values cells(table, span.end, columns);
+  std::vector<double> before(addressing::elementsInMemory<double>(span.end, columns));
+  block::copyTo(cells, span.end, columns, before.data());
+  for (int k = 0; k < span.count(); ++k) {
+    const double* from = before.data() + span.begin + order[k];
+    for (int j = 0; j < columns; ++j, from += span.end) table->setElement(span.begin + k, j, *from);
   }
-  target.store();
 }
 
 }  // namespace

@@ -172,6 +172,23 @@ TEST(Standardization, NormalizeDividesByTheNormsOfUsableCells) {
                      0.0, 0.0, 0.0, 2.385, 0.0}));
 }
 
+TEST(Standardization, ResultIsReplacedUnlessItsShapeFitsAndThenRefilled) {
+  const double cells[] = {1.0, 2.0, 3.0, 4.0, 5.0, 7.0}, sd = std::sqrt(7.0 / 3.0);
+  const matrix table(3, 2, cells, true, 0, 0);
+  for (const auto& [rows, columns] : {std::pair(1, 1), {4, 3}, {3, 2}}) {
+    matrix held(rows, columns, 8.1), *out = &held, *r[3] = {};
+    held.setMissing(0, true);
+    M_Standardize(&table, 3, 2, out, r[0], r[1], r[2], nullptr, nullptr, -1, -1);
+    const bool fits = rows == 3;
+    EXPECT_EQ(out == &held, fits);
+    EXPECT_TRUE(
+        holds(*out, 3, 2,
+              {fits ? 0.0 : -1.0, 0.0, 1.0, (4 - 16 / 3.) / sd, (5 - 16 / 3.) / sd, (7 - 16 / 3.) / sd}));
+    if (!fits) delete out;
+    for (const matrix* made : r) delete made;
+  }
+}
+
 TEST(Standardization, KnownStatisticsMayBeAnyAndTheTableItsOwnResult) {
   const double cells[] = {2.5, kMissing, -7.0, 4.0, 2.5, 9.25, -7.0, 4.0}, sds[] = {2.0, -2.0};
   const short rows[] = {0, 0, 0, 1};
@@ -230,7 +247,7 @@ TEST(Standardization, WithoutCellsPreparesStatisticsAndChangesNothingElse) {
       {"p1 Norms", [&](int i, int j, C c) { M_Normalize(a, i, j, c, nullptr, &v, 0, 0); }},
       {"  pNormalize", [&](int i, int j, C c) { M_Normalize(c, i, j, r[0], nullptr, &v, 0, 0); }},
       {"  pOwn", [&](int i, int j, C c) { M_Standardize3(c, i, j, r[0], r[1], 0); }},
-      {"  pAll", [&](int i, int j, C c) { M_Standardize(a, i, j, c, r[0], r[1], r[2], nullptr, &v, 0, 0); }},
+      {"np All", [&](int i, int j, C c) { M_Standardize(a, i, j, c, r[0], r[1], r[2], nullptr, &v, 0, 0); }},
       {"  pKnown",
        [&](int i, int j, C c) { M_StandardizeKnownMeansStDev(a, i, j, &v, c, &v, r[0], nullptr); }},
       {"  +ByVect", [&](int i, int j, C c) { M_StandardizeByVect(a, i, j, nullptr, &v, 0, c); }},

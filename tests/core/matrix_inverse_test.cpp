@@ -108,6 +108,17 @@ TEST(MatrixInverse, EqualsItsDefinitionBitForBitAndLeavesASmallResidual) {
   EXPECT_GT(inverses, 0);
 }
 
+TEST(MatrixInverse, WritesItsColumnsInOrderAndTakesFlaggedCellsAsZero) {
+  matrix a(3, 3, 0.0), row(1, 3, 4.75), diagonal(2, 2, 4.75), out(2, 2, 4.75);
+  for (int k : {2, 3, 7}) a.setElement(k, 1.0);
+  short singular = 0;
+  EXPECT_EQ(a.inverse1(&row, singular, 0.0), 0);
+  EXPECT_TRUE(holds(row, 1, 3, {0, 0, 1}));
+  for (int k : {1, 2}) diagonal.setMissing(k, true);
+  EXPECT_EQ(diagonal.inverse1(&out, singular, 0.0), 0);
+  EXPECT_TRUE(holds(out, 2, 2, {1 / 4.75, 0, 0, 1 / 4.75}));
+}
+
 TEST(MatrixInverse, RefusesSingularTablesAndKeepsTheResult) {
   for (int row = 0; row < 3; ++row) {
     matrix a(3, 3, 0.0), out(3, 3, 4.75);

@@ -98,4 +98,8 @@ TEST(MatrixProducts, GiveWhatTheirNamesSay) {
   EXPECT_TRUE(holds(x, 3, 2, {3.0, -2.0, -15.0, -6.0, -4.0, 14.0}));
   for (int i = 0; i < 3; ++i) x.setMissing(i, true);
   EXPECT_EQ(x.calcMu(0), kMissing);
+  const double twoCells[] = {4.0, 2.0}, second[] = {0.0, 1.0};
+  matrix weighted(2, 1, twoCells, true, 0, 0);
+  weighted.weighting(second);
+  EXPECT_EQ(weighted.calcMu(0), 2.0);
 }

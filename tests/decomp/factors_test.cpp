@@ -12,11 +12,11 @@ TEST(Factors, EigenvaluesAreKeptAndSelected) {
     int most;
     double kaiser;
     int kept, selected;
-  } const cases[] = {{-1, 0.8, 0, 0, 0, 3, 3}, {1, 0.8, 0, 0, 1, 3, 2},      {-1, 0.5, 80, 0, 0, 4, 2},
+  } const cases[] = {{-1, 0.8, 0, 0, 0, 3, 3}, {1, 0.8, 0, 0, 1, 4, 2},      {-1, 0.5, 80, 0, 0, 4, 2},
                      {-1, 0.5, 0, 3, 0, 4, 3}, {-1, 0.5, 100.1, 9, 0, 4, 4}, {-1, 0.5, 99, 3, 4, 4, 0},
                      {-1, 9, 0, 0, 0, 1, 1},   {0, 9, 0, 0, 0, 4, 4}};
   for (const auto& c : cases) {
-    const double last = c.drop == 0 ? 0.0 : 0.5, total[] = {4, 6, 7, 7 + last};
+    const double last = c.drop == -1 ? 0.5 : 0.0, total[] = {4, 6, 7, 7 + last};
     const auto values = cells(4, 1, {4, 2, 1, 0.5}), percentages = cells(4, 1, {9, 9, 9, 9});
     matrix *v = values.get(), *out = percentages.get();
     int kept = 58, selected = 58;

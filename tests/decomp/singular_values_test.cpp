@@ -206,6 +206,17 @@ TEST(SingularValues, ReproduceTheTableWithOrthonormalVectors) {
   }
 }
 
+TEST(SingularValues, NoVectorsAreMadeForAJobBelowZero) {
+  const auto table = test_matrices::make(test_matrices::kTypes[5], 5, 4);
+  matrix none(5, 4, 4.75), values(4, 1, 4.75);
+  run(*copyOf(*table), 5, 4, values, nullptr, nullptr, 0);
+  for (const int job : {-1, -10, -20, -11, -121, std::numeric_limits<int>::min()}) {
+    matrix s(4, 1, 4.75);
+    EXPECT_EQ(run(*copyOf(*table), 5, 4, s, &none, &none, job), 0);
+    EXPECT_TRUE(holds(s, 4, 1, cellsOf(values)) && holds(none, 5, 4, std::vector<double>(20, 4.75))) << job;
+  }
+}
+
 TEST(SingularValues, CountAsZeroBelowAnAbsoluteThreshold) {
   // Cells that small are taken for diagonal once the first column is reflected to one of length 5e-18; the
   // determinant stays.

@@ -3,6 +3,7 @@
 #include <climits>
 #include <cmath>
 
+#include "missing/estimates.h"
 #include "support/tables.h"
 
 namespace {
@@ -102,6 +103,17 @@ TEST(MissingCells, SummariesOfFlagsThatMayBeNull) {
       anyCount += any[i], bothCount += both[i];
     }
     EXPECT_TRUE(anyCount == 0 && bothCount == 0 && any[after] == 99 && both[after] == 99) << n;
+  }
+}
+
+// In front of the cells lie the counts, which a visit to row -1 would change.
+TEST(MissingCells, NothingIsVisitedInAContainerWithoutCells) {
+  for (const auto& [rows, columns] : {std::pair(-3, 3), {3, -3}, {-3, -3}, {0, 3}}) {
+    matrix a(rows, columns, 2.5);
+    const std::vector<int> before = firstOf(a.counts, std::max(columns, 0));
+    M_ReplaceMissingByVal(&a, 6, 3, 7.0);
+    EstimateRowsWithMissingMean(&a, 6, 3, nullptr, nullptr);
+    EXPECT_EQ(firstOf(a.counts, std::max(columns, 0)), before) << rows << " x " << columns;
   }
 }
 

@@ -147,6 +147,13 @@ TEST(Sorts, CellsBeyondTheContainersReadMinusOne) {
   EXPECT_TRUE(holds(*keys, 3, 1, {0.25, 2.385, -1.0}));
 }
 
+TEST(Sorts, OfCellsThatRowsShareTheLastRowCounts) {
+  const auto keys = tableOf({3, 2, 1}), companion = tableOf({10, 20, 30, 40}, 2);
+  matrix *data = nullptr, *k = keys.get(), *c = companion.get();
+  EXPECT_EQ(SortQ(data, 3, 0, 1, 3, k, c, 2, kFalse, kTrue), 0);
+  EXPECT_TRUE(holds(*companion, 2, 2, {30, 20, 10, 40}) && holds(*keys, 3, 1, {1, 2, 3}));
+}
+
 TEST(Sorts, WithoutDataOrTableTheRestIsSorted) {
   const double cells[] = {2.5, 1.5, 4.5};
   const Table keys(new matrix(3, 1, cells, true, 0, 0)), companion(new matrix(3, 1, cells, true, 0, 0));
