@@ -5,15 +5,17 @@
 #include <string>
 #include <vector>
 
-#include "algebra/covariance.h"
 #include "data.h"
+#include "kavoratb1c/algebra/covariance.h"
+#include "kavoratb1c/regression/least_squares.h"
+#include "kavoratb1c/tables/blocks.h"
+#include "kavoratb1c/tables/categories.h"
+#include "kavoratb1c/tables/merges.h"
 #include "peers.h"
 #include "plain_forms.h"
 #include "ratios.h"
-#include "regression/least_squares.h"
-#include "tables/blocks.h"
-#include "tables/categories.h"
-#include "tables/merges.h"
+
+using namespace kav;
 
 namespace {
 

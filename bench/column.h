@@ -7,7 +7,7 @@
 #include <memory>
 #include <vector>
 
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
 
 struct Column {
   explicit Column(int rows) : n(rows), x(static_cast<std::size_t>(rows)), w(x.size()), exclude(x.size()) {

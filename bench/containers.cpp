@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
 #include "ratios.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
 #include "support/random.h"
 
 using Table = Eigen::Map<const Eigen::MatrixXd>;

@@ -7,16 +7,19 @@
 #include <vector>
 
 #include "data.h"
-#include "decomp/collinearity.h"
-#include "decomp/eigen.h"
-#include "decomp/elimination.h"
-#include "decomp/singular_values.h"
-#include "decomp/triangular.h"
 #include "eigen_decompositions.h"
+#include "kavoratb1c/decomp/cholesky.h"
+#include "kavoratb1c/decomp/collinearity.h"
+#include "kavoratb1c/decomp/eigen.h"
+#include "kavoratb1c/decomp/elimination.h"
+#include "kavoratb1c/decomp/lu.h"
+#include "kavoratb1c/decomp/singular_values.h"
 #include "kernels/kernels.h"
 #include "peers.h"
 #include "plain_forms.h"
 #include "ratios.h"
+
+using namespace kav;
 
 namespace {
 

@@ -8,15 +8,18 @@
 #include <utility>
 #include <vector>
 
-#include "checks/qualitative.h"
-#include "missing/estimates.h"
-#include "missing/nearest_neighbours.h"
+#include "kavoratb1c/checks/qualitative.h"
+#include "kavoratb1c/missing/estimates.h"
+#include "kavoratb1c/missing/nearest_neighbours.h"
+#include "kavoratb1c/sampling/indicators.h"
+#include "kavoratb1c/sampling/samples.h"
+#include "kavoratb1c/stats/frequencies.h"
+#include "kavoratb1c/tables/categories.h"
 #include "plain_forms.h"
 #include "ratios.h"
-#include "sampling/samples.h"
-#include "stats/frequencies.h"
 #include "support/random.h"
-#include "tables/categories.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,6 +1,6 @@
 // Products of tables and vectors, inverses.
 
-#include "algebra/products.h"
+#include "kavoratb1c/algebra/products.h"
 
 #include <Eigen/Dense>
 #include <memory>
@@ -11,6 +11,8 @@
 #include "peers.h"
 #include "plain_forms.h"
 #include "ratios.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,7 +1,5 @@
 // Sorts, quantiles and ranks.
 
-#include "sort/sorts.h"
-
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -9,10 +7,11 @@
 #include <numeric>
 #include <vector>
 
+#include "kavoratb1c/sort/sorts.h"
+#include "kavoratb1c/stats/frequencies.h"
+#include "kavoratb1c/stats/quantiles.h"
+#include "kavoratb1c/stats/ranks.h"
 #include "ratios.h"
-#include "stats/frequencies.h"
-#include "stats/quantiles.h"
-#include "stats/ranks.h"
 #include "support/random.h"
 
 namespace {

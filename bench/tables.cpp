@@ -6,15 +6,17 @@
 #include <memory>
 #include <vector>
 
-#include "algebra/covariance.h"
-#include "algebra/elementwise.h"
-#include "algebra/products.h"
-#include "algebra/standardization.h"
 #include "data.h"
+#include "kavoratb1c/algebra/covariance.h"
+#include "kavoratb1c/algebra/elementwise.h"
+#include "kavoratb1c/algebra/products.h"
+#include "kavoratb1c/algebra/standardization.h"
 #include "peers.h"
 #include "plain_forms.h"
 #include "platform/calling.h"
 #include "ratios.h"
+
+using namespace kav;
 
 extern "C" {
 int KAV_CALL VB_M_ProductAB(double* iAMat, int n, int p, double* iBMat, int m, double* oCMat);

@@ -1,17 +1,18 @@
 // Variances, extremes and missing tests of a vector.
 
-#include <emmintrin.h>
-
 #include <Eigen/Core>
+#include <emmintrin.h>
 #include <memory>
 #include <vector>
 
 #include "column.h"
+#include "kavoratb1c/stats/vector_extremes.h"
+#include "kavoratb1c/stats/vector_moments.h"
+#include "kavoratb1c/stats/vector_sums.h"
 #include "platform/calling.h"
 #include "ratios.h"
-#include "stats/vector_extremes.h"
-#include "stats/vector_moments.h"
-#include "stats/vector_sums.h"
+
+using namespace kav;
 
 extern "C" {
 void KAV_CALL VB_V_MeanVar(double* iVector, int n, double* Mean, double* Var, short* iMissing, double* w,

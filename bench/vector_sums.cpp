@@ -1,12 +1,14 @@
 // Sums and means: the workers, and the entries that macros call.
 
-#include "stats/vector_sums.h"
+#include "kavoratb1c/stats/vector_sums.h"
 
 #include <Eigen/Core>
 
 #include "column.h"
 #include "platform/calling.h"
 #include "ratios.h"
+
+using namespace kav;
 
 extern "C" {
 double KAV_CALL VB_V_Mean(double* iVector, int n, short* iMissing, double* w);

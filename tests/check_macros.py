@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks macro code against the declarations: every entry it calls is declared, with as many arguments.
+"""Checks macro code against the declarations: every entry it calls is declared, with as many arguments. All files have
+the line ends that macro editors want.
 
     check_macros.py DECLARATIONS.bas MACRO.bas ...
 """
@@ -37,5 +38,9 @@ for path in sys.argv[2:]:
         wanted, given = declared.get(match[1]), arguments(text, match.end() - 1)
         if wanted != given:
             problems.append(f"{path}: {match[1]} called with {given} arguments, declared with {wanted}")
+for path in sys.argv[1:]:
+    content = open(path, "rb").read()
+    if content.count(b"\n") != content.count(b"\r\n"):
+        problems.append(f"{path}: lines do not end with carriage return and line feed")
 if problems or not declared or not calls:
     sys.exit("\n".join(problems) or "nothing to check")

@@ -143,11 +143,11 @@ def entries_header(entries):
 
 #include "platform/ole.h"
 
-namespace entries {{
+namespace kav::entries {{
 
 {prototypes}
 
-}}  // namespace entries
+}}  // namespace kav::entries
 """
 
 
@@ -164,6 +164,8 @@ def thunks(entries):
 #include "bridge/generated/entries.h"
 #include "bridge/guard.h"
 #include "platform/calling.h"
+
+using namespace kav;
 
 extern "C" {{
 
@@ -204,6 +206,14 @@ def test_prototypes(entries):
 #pragma once
 
 #include "platform/ole.h"
+
+#if defined(_WIN32) && defined(__i386__)
+#define KAV_MACRO_CALL __stdcall
+#else
+#define KAV_MACRO_CALL
+#endif
+
+using namespace kav;
 
 extern "C" {{
 {lines}
@@ -302,7 +312,8 @@ def derived_files():
 def write():
     for path, text in derived_files().items():
         path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_text(text, encoding="ascii")
+        # Macro editors refuse other line ends.
+        path.write_text(text, encoding="ascii", newline="\r\n" if path.suffix == ".bas" else "\n")
 
 
 def check():

@@ -103,8 +103,9 @@ def index(entries, texts, derived):
     titles = {path.name: text.split("\n", 1)[0].removeprefix("# ") for path, text in texts.items()}
     lines = [
         "# Reference of the macro entries", "", f"<!-- {derived} -->", "",
-        f"{len(entries)} entries. What holds for all of them - arrays, missing values, flags, weights, options, failure",
-        "values - stands in the [conventions](../conventions.md); how to read the examples, at the end of this page.", "",
+        f"{len(entries)} entries. The [conventions](../conventions.md) are the rules that all of them share: arrays,",
+        "missing values, flags, weights, options, failure values. The notation of the examples is explained at the",
+        "end of the page.", "",
         *(f"- [{title}]({name})" for name, title in titles.items()),
     ]
     group = None
@@ -120,7 +121,7 @@ def index(entries, texts, derived):
 EXAMPLES = """
 ## The examples
 
-Every number in them is compared by a test with what the DLL gives. They are written short, not as macro code:
+A test compares every number in the examples with the DLL's result. They use a short notation instead of macro code:
 
 ```example
 price = {12.5, missing, 11, 14.25}
@@ -132,11 +133,11 @@ lowest -> 11
 highest -> 14.25
 ```
 
-A first line gives an array its cells: within a row they are separated by commas, rows by semicolons, as in a
-worksheet's array constants. `->` tells what the call gives back, and below it what arrays hold afterwards. `missing`
-is the marker -1.79769313486231E+308, `nothing` a null pointer, where an entry allows one. Numbers with decimals are
-rounded to the digits shown; those without are exact. In a macro the call reads
-`VB_V_Mean(price(1), 4, excluded(1), quantity(1))`, and tables are arrays `(1 To n, 1 To p)`.
+An assignment fills an array: commas separate the cells of a row, semicolons the rows, as in a worksheet's array
+constants. After a call, `->` shows the value it returns; the lines below it show what the arrays then hold.
+`missing` is the marker -1.79769313486231E+308, and `nothing` a null pointer, which some parameters allow. Numbers
+with decimals are rounded to the digits shown; numbers without decimals are exact. In a macro, the first call above
+reads `VB_V_Mean(price(1), 4, excluded(1), quantity(1))`, and tables are arrays `(1 To n, 1 To p)`.
 """
 
 

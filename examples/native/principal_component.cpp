@@ -3,7 +3,7 @@
 
 #include <cstdio>
 
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
 
 namespace {
 
@@ -12,10 +12,10 @@ namespace {
 constexpr int kYears = 8;
 constexpr int kColumns = 4;
 constexpr double kTable[kYears * kColumns] = {
-    60.323, 61.122, 60.171, 61.187, 63.221,   kMissing, 64.989,  63.761,    // people employed
-    83.0,   88.5,   88.2,   89.5,   kMissing, 98.1,     99.0,    100.0,     // prices
-    23.429, 25.943, 25.805, 28.460, 32.898,   34.700,   36.539,  kMissing,  // national product
-    107.61, 108.63, 109.77, 110.93, 112.08,   113.27,   115.094, 116.219    // population
+    60.323, 61.122, 60.171, 61.187, 63.221,        kav::kMissing, 64.989,  63.761,         // people employed
+    83.0,   88.5,   88.2,   89.5,   kav::kMissing, 98.1,          99.0,    100.0,          // prices
+    23.429, 25.943, 25.805, 28.460, 32.898,        34.700,        36.539,  kav::kMissing,  // national product
+    107.61, 108.63, 109.77, 110.93, 112.08,        113.27,        115.094, 116.219         // population
 };
 
 /// Scales a column of loadings to length 1 and returns how far it moved from the former one.

@@ -8,13 +8,14 @@
 #include <exception>
 #include <stdexcept>
 
-#include "algebra/covariance.h"
-#include "algebra/products.h"
-#include "algebra/standardization.h"
 #include "components_table.h"
-#include "core/matrix.h"
 #include "csv_table.h"
-#include "decomp/eigen.h"
+#include "kavoratb1c/algebra/covariance.h"
+#include "kavoratb1c/algebra/products.h"
+#include "kavoratb1c/algebra/standardization.h"
+#include "kavoratb1c/decomp/eigen.h"
+#include "kavoratb1c/decomp/factors.h"
+#include "kavoratb1c/matrix.h"
 
 namespace {
 
@@ -34,10 +35,10 @@ Components componentsOf(const CsvTable& file, const std::vector<std::string>& va
   matrix *x = &table, *r = &correlations, *lambda = &values, *z = &vectors, *percent = &percentages,
          *f = &scores, *c = &cosines;
   int kept, axes;
-  M_Standardize2(x, n, p, kTrue);
-  M_CovCorr(x, n, p, r, kTrue, nullptr, nullptr, kTrue, kTrue);
+  M_Standardize2(x, n, p, kav::kTrue);
+  M_CovCorr(x, n, p, r, kav::kTrue, nullptr, nullptr, kav::kTrue, kav::kTrue);
   if (M_Eigen(r, lambda, z, p, 1) != 0) throw std::runtime_error("an eigenvalue was not found");
-  FilterEigen(lambda, p, kTrue, 1e-12, 0.0, 0, 1.0, kept, axes, percent);
+  FilterEigen(lambda, p, kav::kTrue, 1e-12, 0.0, 0, 1.0, kept, axes, percent);
   M_ProductAB(x, n, p, z, p, f);
   cComputeCosines(f, n, p, c);
   return {variables,        file.labels("car"), cellsOf(values),  cellsOf(percentages),

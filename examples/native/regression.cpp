@@ -7,13 +7,13 @@
 #include <exception>
 #include <stdexcept>
 
-#include "algebra/covariance.h"
 #include "coefficients_table.h"
 #include "csv_table.h"
-#include "decomp/collinearity.h"
+#include "kavoratb1c/algebra/covariance.h"
+#include "kavoratb1c/decomp/collinearity.h"
+#include "kavoratb1c/regression/least_squares.h"
+#include "kavoratb1c/regression/newton_raphson.h"
 #include "logistic.h"
-#include "regression/least_squares.h"
-#include "regression/newton_raphson.h"
 
 namespace {
 
@@ -32,7 +32,7 @@ Coefficients fitted(const matrix& x, const matrix& y, const std::vector<std::str
   const matrix weights(n, 1, 1.0);
   matrix b(p + 1, 1, 0.0), se(p + 1, 1, 0.0), predicted(n, 1, 0.0);
   matrix *estimates = &b, *errors = &se, *response = &predicted;
-  OLSBasic2(n, p, &x, &y, &weights, 1, kFalse, kFalse, 1e-9, estimates, errors, response);
+  OLSBasic2(n, p, &x, &y, &weights, 1, kav::kFalse, kav::kFalse, 1e-9, estimates, errors, response);
   Coefficients c;
   c.names = names;
   c.estimates = cellsOf(b);
@@ -46,9 +46,9 @@ void addTolerances(Coefficients& c, matrix& x) {
   matrix correlations(p, p, 0.0), selected(1, 1, 1.0), group(p, 1, 1.0), status(p, 1, 0.0),
       tolerances(p, 1, 0.0), inflations(p, 1, 0.0);
   matrix *table = &x, *r = &correlations, *groups = &group;
-  M_CovCorr(table, n, p, r, kTrue, nullptr, nullptr, kTrue, kTrue);
-  CheckTolerance(r, p, 1, &selected, nullptr, groups, 1e-9, kFalse, kFalse, kFalse, &status, &tolerances,
-                 &inflations);
+  M_CovCorr(table, n, p, r, kav::kTrue, nullptr, nullptr, kav::kTrue, kav::kTrue);
+  CheckTolerance(r, p, 1, &selected, nullptr, groups, 1e-9, kav::kFalse, kav::kFalse, kav::kFalse, &status,
+                 &tolerances, &inflations);
   c.tolerances = cellsOf(tolerances);
   c.inflations = cellsOf(inflations);
 }
@@ -87,8 +87,8 @@ void printLogistic(const std::string& folder) {
   while (status == 0 && steps < 50) {
     const Doubles g = model.gradient(cellsOf(b)), h = model.hessian(cellsOf(b));
     const matrix gradient(p, 1, g.data(), true, 0, 0), hessian(p, p, h.data(), true, 0, 0);
-    status =
-        cNewtonRaphson(parameters, p, &excluded, &gradient, &hessian, 1e-10, errors, inverted, kTrue, 5.0);
+    status = cNewtonRaphson(parameters, p, &excluded, &gradient, &hessian, 1e-10, errors, inverted,
+                            kav::kTrue, 5.0);
     ++steps;
   }
   if (status != 1) throw std::runtime_error("the logistic regression did not converge");

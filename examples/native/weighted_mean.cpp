@@ -2,11 +2,11 @@
 
 #include <cstdio>
 
-#include "core/matrix.h"
-#include "stats/vector_sums.h"
+#include "kavoratb1c/matrix.h"
+#include "kavoratb1c/stats/vector_sums.h"
 
 int main() {
-  const double prices[] = {12.5, kMissing, 11.0, 14.25};
+  const double prices[] = {12.5, kav::kMissing, 11.0, 14.25};
   const double quantities[] = {3.0, 1.0, 2.0, 4.0};
   const short excluded[4] = {};
   const matrix x(4, 1, prices, false, 0, 0);  // the missing cell is flagged

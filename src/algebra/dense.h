@@ -1,15 +1,15 @@
 // Products of blocks by the kernels, for workers. Internal.
 #pragma once
 
-#include "core/block.h"
-#include "core/scratch.h"
+#include "access/block.h"
 #include "kernels/kernels.h"
+#include "numerics/scratch.h"
 
-namespace dense {
+namespace kav::dense {
 
 using kernels::View;
 
-inline View viewOf(const block::Values& cells) { return {cells.data(), 1, cells.stride()}; }
+inline View viewOf(const block::Values& cells) { return {cells.data(), 1, cells.leadingDimension()}; }
 
 /// Factors between a and b of a product, one for each term.
 struct Scale {
@@ -30,15 +30,15 @@ inline void multiply(const View& a, const View& b, int rows, int columns, int de
 
 inline void multiply(const View& a, const View& b, int rows, int columns, int depth, block::Target& c,
                      const Scale& scale = {}) {
-  multiply(a, b, rows, columns, depth, c.data(), c.stride(), scale);
+  multiply(a, b, rows, columns, depth, c.data(), c.leadingDimension(), scale);
 }
 
 /// a . a', or a . diag(scale) . a': the upper triangle computed, the lower one its mirror.
 inline void multiplySymmetric(const View& a, int size, int depth, block::Target& c, const Scale& scale = {}) {
-  multiply(a, a.transposed(), size, size, depth, c.data(), c.stride(), scale, true);
+  multiply(a, a.transposed(), size, size, depth, c.data(), c.leadingDimension(), scale, true);
   for (int j = 0; j < size; ++j) {
     for (int i = j + 1; i < size; ++i) c.column(j)[i] = c.column(i)[j];
   }
 }
 
-}  // namespace dense
+}  // namespace kav::dense

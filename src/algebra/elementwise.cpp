@@ -1,17 +1,18 @@
-#include "algebra/elementwise.h"
-
-#include <emmintrin.h>
+#include "kavoratb1c/algebra/elementwise.h"
 
 #include <algorithm>
+#include <emmintrin.h>
 
-#include "algebra/result_blocks.h"
-#include "core/screening.h"
+#include "access/results.h"
+#include "access/screening.h"
 #include "kernels/kernels.h"
 
-using result::fill;
-using result::fillInto;
-using result::into;
-using result::prepared;
+using namespace kav;
+
+using results::fill;
+using results::fillInto;
+using results::into;
+using results::refilled;
 
 namespace {
 
@@ -52,16 +53,16 @@ void sumColumns(const matrix* a, int n, int p, matrix* w, Of of) {
   into(w, p, 1, [&](block::Target& sums) {
     int j = 0;
     for (; p - j >= kColumnsAtOnce; j += kColumnsAtOnce) {
-      sumColumns<kColumnsAtOnce>(cells.column(j), cells.stride(), n, sums.data() + j, of);
+      sumColumns<kColumnsAtOnce>(cells.column(j), cells.leadingDimension(), n, sums.data() + j, of);
     }
     for (; j < p; ++j) {
-      sumColumns<1>(cells.column(j), cells.stride(), n, sums.data() + j, of);
+      sumColumns<1>(cells.column(j), cells.leadingDimension(), n, sums.data() + j, of);
     }
   });
 }
 
 void transpose(const block::Values& from, int n, int p, double s, double* to, std::ptrdiff_t stride) {
-  kernels::best().transpose({from.data(), from.stride(), n, p, s, to, stride});
+  kernels::best().transpose({from.data(), from.leadingDimension(), n, p, s, to, stride});
 }
 
 /// The extremes of a column in which every cell counts and no other rule can show: without a marker, without
@@ -96,7 +97,7 @@ struct PlainExtremes {
 template <class Replaces>
 void columnExtremes(const matrix* a, int n, int p, matrix* w, double PlainExtremes::*which,
                     Replaces replaces) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   const block::Values cells(a, n, p);
   into(w, p, 1, [&](block::Target& extremes) {
     for (int j = 0; j < p; ++j) {
@@ -125,27 +126,27 @@ void M_ScalarsA(const matrix* a, int n, int p, double s, matrix* c) {
 }
 
 void M_ScalarsA2(matrix*& a, int n, int p, double s) {
-  if (a == nullptr || !result::hasCells(n, p)) return;
+  if (a == nullptr || !results::haveCells(n, p)) return;
   matrix scaled(n, p);
   M_ScalarsA(a, n, p, s, &scaled);
   scaled.copyMatTo(a);
 }
 
 void M_ScalarsTrA(const matrix* a, int n, int p, double s, matrix*& c) {
-  prepared(c, p, n, 1, [&](block::Target& target) {
-    transpose(block::Values(a, n, p), n, p, s, target.data(), target.stride());
+  refilled(c, p, n, 1, [&](block::Target& target) {
+    transpose(block::Values(a, n, p), n, p, s, target.data(), target.leadingDimension());
   });
 }
 
 void M_APlusVal(const matrix* a, int n, int p, double s, matrix*& c) {
-  prepared(c, n, p, 1, [&](block::Target& target) {
+  refilled(c, n, p, 1, [&](block::Target& target) {
     const block::Values cells(a, n, p);
     fill(target, n, p, [&](int j) { return [x = cells.column(j), s](int i) { return x[i] + s; }; });
   });
 }
 
 void M_Sums1As2B(const matrix* a, int n, int p, const matrix* b, double s1, double s2, matrix*& c) {
-  prepared(c, n, p, 1, [&](block::Target& target) {
+  refilled(c, n, p, 1, [&](block::Target& target) {
     const block::Values x(a, n, p), y(b, n, p);
     fill(target, n, p, [&](int j) {
       return [=, left = x.column(j), right = y.column(j)](int i) { return s1 * left[i] + s2 * right[i]; };
@@ -180,7 +181,7 @@ int M_Transpose(const matrix* a, int n, int p, matrix*& c) {
 }
 
 int M_Transpose2(matrix*& a, int n, int p) {
-  if (a == nullptr || !result::hasCells(n, p)) return 0;
+  if (a == nullptr || !results::haveCells(n, p)) return 0;
   matrix transposed(p, n, 0.0);
   transpose(block::Values(a, n, p), n, p, 1.0, transposed.values, p);
   transposed.copyMatTo(a);
@@ -188,11 +189,11 @@ int M_Transpose2(matrix*& a, int n, int p) {
 }
 
 void M_SumByRows(const matrix* a, int n, int p, matrix* w) {
-  if (result::hasCells(n, p)) sumRows(a, n, p, w, [](double x) { return x; });
+  if (results::haveCells(n, p)) sumRows(a, n, p, w, [](double x) { return x; });
 }
 
 void M_SumByCols(const matrix* a, int n, int p, matrix* w) {
-  if (result::hasCells(n, p)) sumColumns(a, n, p, w, [](double x) { return x; });
+  if (results::haveCells(n, p)) sumColumns(a, n, p, w, [](double x) { return x; });
 }
 
 void M_SquaredRows(const matrix* a, int n, int p, matrix* w) {
@@ -218,16 +219,14 @@ void M_Min(const matrix* a, int n, int p, matrix* w) {
 }
 
 void M_MinMax(const matrix* a, int n, int p, matrix* min, matrix* max, const short* exclude, short option) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   const block::Values cells(a, n, p);
   const block::Flags flags(a, n, p);
   block::Target least(min, p), greatest(max, p);
   const bool nothingExcluded = option == kFalse && exclude != nullptr &&
                                std::all_of(exclude, exclude + n, [](short flag) { return flag == 0; });
   for (int j = 0; j < p; ++j) {
-    const bool everyRow = option == kTrue
-                              ? !screening::anyFlagged(reinterpret_cast<const bool*>(flags.column(j)), n)
-                              : nothingExcluded;
+    const bool everyRow = option == kTrue ? !screening::anyFlagged(flags.column(j), n) : nothingExcluded;
     if (everyRow) {
       const PlainExtremes plain(cells.column(j), n);
       least[j] = plain.least;
@@ -239,7 +238,7 @@ void M_MinMax(const matrix* a, int n, int p, matrix* min, matrix* max, const sho
     double high = kMissing;
     for (int i = 0; i < n; ++i) {
       const double x = cells.column(j)[i];
-      const bool present = !flags.column(j)[i] && !isMarker(x);
+      const bool present = !isMissing(x, flags.column(j)[i]);
       const bool used = option == kTrue    ? present
                         : option == kFalse ? exclude != nullptr && exclude[i] == 0
                                            : false;

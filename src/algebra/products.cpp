@@ -1,19 +1,21 @@
-#include "algebra/products.h"
+#include "kavoratb1c/algebra/products.h"
 
 #include <algorithm>
 #include <memory>
 #include <vector>
 
+#include "access/results.h"
 #include "algebra/dense.h"
-#include "algebra/result_blocks.h"
-#include "core/thresholds.h"
-#include "stats/vector_sums.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "numerics/thresholds.h"
+
+using namespace kav;
 
 using dense::Scale;
 using dense::View;
 using dense::viewOf;
-using result::into;
-using result::prepared;
+using results::into;
+using results::refilled;
 
 namespace {
 
@@ -21,7 +23,7 @@ namespace {
 std::unique_ptr<matrix> inverseOf(const matrix* b, int n, double tolerance) {
   const block::Values cells(b, n, n);
   matrix square(n, n);
-  result::fillInto(&square, n, n, [&](int j) { return [x = cells.column(j)](int i) { return x[i]; }; });
+  results::fillInto(&square, n, n, [&](int j) { return [x = cells.column(j)](int i) { return x[i]; }; });
   auto inverse = std::make_unique<matrix>(n, n, 0.0);
   short singular = kFalse;
   square.inverse1(inverse.get(), singular, tolerance);
@@ -45,7 +47,7 @@ void symmetricInto(const View& a, int size, int depth, const block::Values& v, m
 
 /// (a.b).a' for a of size x depth.
 void sandwich(const View& a, const View& b, int size, int depth, matrix*& c) {
-  prepared(c, size, size, depth, [&](block::Target& target) {
+  refilled(c, size, size, depth, [&](block::Target& target) {
     matrix half(size, depth);
     dense::multiply(a, b, size, depth, depth, half.values, size);
     dense::multiply({half.values, 1, size}, a.transposed(), size, size, depth, target);
@@ -62,13 +64,13 @@ double quadraticForm(const matrix* x, const matrix* b, const matrix* y, int n) {
 /// All products of a column of a with one of b, row by row, the columns of b varying fastest.
 template <class Of>
 void crossColumns(const matrix* a, int n, int p, const matrix* b, int q, matrix* c, Of of) {
-  if (!result::hasCells(n, p, q)) return;
+  if (!results::haveCells(n, p, q)) return;
   const block::Values left(a, n, p), right(b, n, q);
-  into(c, n, result::productColumns(p, q), [&](block::Target& target) {
+  into(c, n, results::productColumns(p, q), [&](block::Target& target) {
     double* column = target.data();
     for (int k = 0; k < p; ++k) {
       const double* x = left.column(k);
-      for (int l = 0; l < q; ++l, column += target.stride()) {
+      for (int l = 0; l < q; ++l, column += target.leadingDimension()) {
         const double* y = right.column(l);
         for (int i = 0; i < n; ++i) column[i] = of(x[i], y[i]);
       }
@@ -79,10 +81,10 @@ void crossColumns(const matrix* a, int n, int p, const matrix* b, int q, matrix*
 /// The same in place of a.
 template <class Of>
 void crossColumnsInPlace(matrix*& a, int n, int* p, const matrix* b, int q, Of of) {
-  if (p == nullptr || !result::hasCells(n, *p, q)) return;
-  matrix product(n, result::productColumns(*p, q), 0.0);
+  if (p == nullptr || !results::haveCells(n, *p, q)) return;
+  matrix product(n, results::productColumns(*p, q), 0.0);
   crossColumns(a, n, *p, b, q, &product, of);
-  result::replace(a, product);
+  results::replace(a, product);
   *p = product.pX;
 }
 
@@ -110,7 +112,7 @@ double divideByWeights(double* column, const double* weights, int n) {
 }  // namespace
 
 int M_ProductAB(const matrix* a, int n, int p, const matrix* b, int q, matrix*& c) {
-  prepared(c, n, q, p, [&](block::Target& target) {
+  refilled(c, n, q, p, [&](block::Target& target) {
     const block::Values left(a, n, p), right(b, p, q);
     dense::multiply(viewOf(left), viewOf(right), n, q, p, target);
   });
@@ -119,18 +121,18 @@ int M_ProductAB(const matrix* a, int n, int p, const matrix* b, int q, matrix*& 
 
 int M_ProductABMissing(const matrix* a, int n, int p, const matrix* b, int q, matrix*& c) {
   M_ProductAB(a, n, p, b, q, c);
-  if (!result::hasCells(n, p, q)) return 0;
+  if (!results::haveCells(n, p, q)) return 0;
   const block::Values left(a, n, p), right(b, p, q);
   const block::Flags leftFlags(a, n, p), rightFlags(b, p, q);
   const auto missingRow = [&](int i) {
     for (int k = 0; k < p; ++k) {
-      if (leftFlags.column(k)[i] || isMarker(left.column(k)[i])) return true;
+      if (isMissing(left.column(k)[i], leftFlags.column(k)[i])) return true;
     }
     return false;
   };
   const auto missingColumn = [&](int j) {
     for (int k = 0; k < p; ++k) {
-      if (rightFlags.column(j)[k] || isMarker(right.column(j)[k])) return true;
+      if (isMissing(right.column(j)[k], rightFlags.column(j)[k])) return true;
     }
     return false;
   };
@@ -151,124 +153,124 @@ int M_ProductABMissing(const matrix* a, int n, int p, const matrix* b, int q, ma
 }
 
 void M_ProductATrB(const matrix* a, int n, int p, const matrix* b, int m, matrix*& c) {
-  prepared(c, n, m, p, [&](block::Target& target) {
+  refilled(c, n, m, p, [&](block::Target& target) {
     const block::Values left(a, n, p), right(b, m, p);
     dense::multiply(viewOf(left), viewOf(right).transposed(), n, m, p, target);
   });
 }
 
 void M_ProductTrAB(const matrix* a, int n, int p, const matrix* b, int q, matrix*& c) {
-  prepared(c, p, q, n, [&](block::Target& target) {
+  refilled(c, p, q, n, [&](block::Target& target) {
     const block::Values left(a, n, p), right(b, n, q);
     dense::multiply(viewOf(left).transposed(), viewOf(right), p, q, n, target);
   });
 }
 
 void M_ProductATrA(const matrix* a, int n, int p, matrix*& c) {
-  prepared(c, n, n, p, [&](block::Target& target) {
+  refilled(c, n, n, p, [&](block::Target& target) {
     dense::multiplySymmetric(viewOf(block::Values(a, n, p)), n, p, target);
   });
 }
 
 void M_ProductTrAA(const matrix* a, int n, int p, matrix*& c) {
-  prepared(c, p, p, n, [&](block::Target& target) {
+  refilled(c, p, p, n, [&](block::Target& target) {
     dense::multiplySymmetric(viewOf(block::Values(a, n, p)).transposed(), p, n, target);
   });
 }
 
 void M_ProductADTrA(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
-  prepared(c, n, n, p, [&](block::Target& target) {
+  refilled(c, n, n, p, [&](block::Target& target) {
     const block::Values cells(a, n, p);
     dense::multiplySymmetric(viewOf(cells), n, p, target, Scale{diagonalOf(d, p).data(), 1});
   });
 }
 
 void M_ProductTrADA(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
-  prepared(c, p, p, n, [&](block::Target& target) {
+  refilled(c, p, p, n, [&](block::Target& target) {
     const block::Values cells(a, n, p);
     dense::multiplySymmetric(viewOf(cells).transposed(), p, n, target, Scale{diagonalOf(d, n).data(), 1});
   });
 }
 
 void M_ProductADiagVTrA(const matrix* a, int n, int p, const matrix* v, matrix* c) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   const block::Values cells(a, n, p);
   symmetricInto(viewOf(cells), n, p, block::Values(v, p), c);
 }
 
 void M_ProductTrADiagVA(const matrix* a, int n, int p, const matrix* v, matrix* c) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   const block::Values cells(a, n, p);
   symmetricInto(viewOf(cells).transposed(), p, n, block::Values(v, n), c);
 }
 
 void M_ProductADiag(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
-  prepared(c, n, p, 1, [&](block::Target& target) {
+  refilled(c, n, p, 1, [&](block::Target& target) {
     const block::Values cells(a, n, p);
     const std::vector<double> diagonal = diagonalOf(d, p);
-    result::fill(target, n, p, [&](int j) {
+    results::fill(target, n, p, [&](int j) {
       return [x = cells.column(j), d = diagonal[static_cast<std::size_t>(j)]](int i) { return x[i] * d; };
     });
   });
 }
 
 void M_ProductTrADiag(const matrix* a, int n, int p, const matrix* d, matrix*& c) {
-  prepared(c, p, n, 1, [&](block::Target& target) {
+  refilled(c, p, n, 1, [&](block::Target& target) {
     const block::Values cells(a, n, p);
     const std::vector<double> diagonal = diagonalOf(d, n);
-    result::fill(target, p, n, [&](int j) {
+    results::fill(target, p, n, [&](int j) {
       return [&cells, j, d = diagonal[static_cast<std::size_t>(j)]](int i) { return cells.column(i)[j] * d; };
     });
   });
 }
 
 void M_ProductADiagV(const matrix* a, int n, int p, const matrix* v, matrix* c) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   const block::Values cells(a, n, p), factors(v, p);
-  result::fillInto(c, n, p, [&](int j) {
+  results::fillInto(c, n, p, [&](int j) {
     return [x = cells.column(j), factor = factors[j]](int i) { return x[i] * factor; };
   });
 }
 
 void M_ProductDiagVA(const matrix* v, int n, const matrix* a, int p, matrix* c) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   const block::Values cells(a, n, p), factors(v, n);
-  result::fillInto(c, n, p, [&](int j) {
+  results::fillInto(c, n, p, [&](int j) {
     return [x = cells.column(j), factor = factors.data()](int i) { return factor[i] * x[i]; };
   });
 }
 
 void M_ProductDiagV1ADiagV2(const matrix* x, int n, const matrix* a, int p, const matrix* y, matrix* c) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   const block::Values cells(a, n, p), left(x, n), right(y, p);
-  result::fillInto(c, n, p, [&](int j) {
+  results::fillInto(c, n, p, [&](int j) {
     return
         [x = cells.column(j), of = left.data(), factor = right[j]](int i) { return of[i] * x[i] * factor; };
   });
 }
 
 void M_ProductABTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
-  if (!result::hasCellsOrIsPrepared(c, n, n, p)) return;
+  if (!results::haveCellsOrRefill(c, n, n, p)) return;
   const block::Values cells(a, n, p), middle(b, p, p);
   sandwich(viewOf(cells), viewOf(middle), n, p, c);
 }
 
 void M_ProductTrABA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
-  if (!result::hasCellsOrIsPrepared(c, p, p, n)) return;
+  if (!results::haveCellsOrRefill(c, p, p, n)) return;
   const block::Values cells(a, n, p), middle(b, n, n);
   sandwich(viewOf(cells).transposed(), viewOf(middle), p, n, c);
 }
 
 void M_ProductAinvBTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
-  if (result::hasCellsOrIsPrepared(c, n, n, p)) M_ProductABTrA(a, n, p, inverseOf(b, p, kZero).get(), c);
+  if (results::haveCellsOrRefill(c, n, n, p)) M_ProductABTrA(a, n, p, inverseOf(b, p, kZero).get(), c);
 }
 
 void M_ProductTrAinvBA(const matrix* a, int n, int p, const matrix* b, matrix*& c) {
-  if (result::hasCellsOrIsPrepared(c, p, p, n)) M_ProductTrABA(a, n, p, inverseOf(b, n, kEpsilon).get(), c);
+  if (results::haveCellsOrRefill(c, p, p, n)) M_ProductTrABA(a, n, p, inverseOf(b, n, kEpsilon).get(), c);
 }
 
 int M_ProductBV(const matrix* b, int n, int p, const matrix* v, matrix* w) {
-  if (!result::hasCells(n, p)) return 0;
+  if (!results::haveCells(n, p)) return 0;
   const block::Values table(b, n, p), vector(v, p);
   into(w, n, 1,
        [&](block::Target& target) { dense::multiply(viewOf(table), viewOf(vector), n, 1, p, target); });
@@ -276,10 +278,10 @@ int M_ProductBV(const matrix* b, int n, int p, const matrix* v, matrix* w) {
 }
 
 void M_ProductVB(const matrix* v, int n, const matrix* b, int q, matrix*& w) {
-  prepared(w, q, 1, n, [&](block::Target& target) {
+  refilled(w, q, 1, n, [&](block::Target& target) {
     const block::Values table(b, n, q), vector(v, n);
     kernels::best().columnSums(
-        {table.data(), table.stride(), n, q, nullptr, nullptr, vector.data(), target.data()});
+        {table.data(), table.leadingDimension(), n, q, nullptr, nullptr, vector.data(), target.data()});
   });
 }
 
@@ -319,8 +321,8 @@ void M_ProductDesignAB2(matrix*& a, int n, int* p, const matrix* b, int q, int m
   crossColumnsInPlace(a, n, p, b, q, [](double x, double y) { return x == 0.0 || y == 0.0 ? 0.0 : x * y; });
   if (mode != 3 || p == nullptr) return;
   const int columns = *p;
-  matrix::matCheck(frequencies, columns, 1, 0.0);
-  if (weights == nullptr || !result::hasCells(n, columns, q)) return;
+  results::refill(frequencies, columns, 1);
+  if (weights == nullptr || !results::haveCells(n, columns, q)) return;
   const block::Values rowWeights(weights, n);
   block::Target sums(frequencies, columns);
   into(a, n, columns, [&](block::Target& table) {

@@ -8,12 +8,11 @@
 #include <algorithm>
 #include <vector>
 
-#include "core/block.h"
-#include "core/moments.h"
+#include "access/taking_part.h"
 #include "kernels/kernels.h"
-#include "stats/usable.h"
+#include "numerics/moments.h"
 
-namespace shared_rows {
+namespace kav::shared_rows {
 
 /// Rows looked at together.
 inline constexpr int kBlock = 128;
@@ -24,14 +23,15 @@ class RowBlocks {
   /// @param rowFlags  null excludes nothing
   /// @param weights   null stands for 1.0; a weight of exactly 0.0 leaves its row out
   RowBlocks(int n, const short* rowFlags, const matrix* weights)
-      : n_(n), used_(rowFlags), unweighted_(weights == nullptr), weights_(weights, unweighted_ ? 0 : n) {}
+      : n_(n), weights_(weights, n), takesPart_{usable::NotExcludedIfGiven(rowFlags), weights_} {}
+  RowBlocks(const RowBlocks&) = delete;
 
   /// Goes to the next block; false when no row is left.
   bool next() {
     count_ = 0;
     for (; at_ < n_ && count_ < kBlock; ++at_) {
-      const double w = unweighted_ ? 1.0 : weights_[at_];
-      if (!used_(at_) || w == 0.0) continue;
+      if (!takesPart_(at_)) continue;
+      const double w = weights_[at_];
       rows_[count_] = at_;
       rowWeights_[count_] = w;
       total_ += w;
@@ -59,9 +59,8 @@ class RowBlocks {
 
  private:
   int n_;
-  usable::NotExcludedIfGiven used_;
-  bool unweighted_;
-  block::Values weights_;
+  usable::RowWeights weights_;
+  usable::TakesPart<usable::NotExcludedIfGiven> takesPart_;
   int at_ = 0;
   int count_ = 0;
   double total_ = 0.0;
@@ -111,4 +110,4 @@ class Columns {
   std::vector<double> means_, squares_, gathered_;
 };
 
-}  // namespace shared_rows
+}  // namespace kav::shared_rows

@@ -1,14 +1,17 @@
-#include "algebra/standardization.h"
+#include "kavoratb1c/algebra/standardization.h"
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
-#include "algebra/result_blocks.h"
+#include "access/results.h"
+#include "access/taking_part.h"
 #include "algebra/shared_rows.h"
-#include "core/moments.h"
-#include "platform/scalar.h"
-#include "stats/usable.h"
-#include "stats/vector_transforms.h"
+#include "kavoratb1c/stats/vector_transforms.h"
+#include "numerics/moments.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 using moments::Denominator;
 using moments::Moments;
@@ -46,24 +49,22 @@ class Columns {
         cells_(a, n, p),
         flags_(a, n, p),
         rowFlags_(rowFlags),
-        given_(weights),
-        unweighted_(weights == nullptr),
-        weights_(weights, weights == nullptr ? 0 : n) {}
+        givenWeights_(weights),
+        weights_(weights, n) {}
 
   const double* column(int j) const { return cells_.column(j); }
 
   /// @param missingMode  as for M_MeanStDev
   Moments momentsOf(int j, short missingMode) const {
-    const usable::Present present(column(j), flags_.column(j));
-    if (missingMode == kTrue) return momentsOf(j, present);
-    return missingMode == kFalse ? momentsOf(j, usable::NotExcludedIfGiven(rowFlags_)) : Moments();
+    if (missingMode == kTrue) return accumulated<Moments>(j, present(j));
+    return missingMode == kFalse ? accumulated<Moments>(j, notExcluded()) : Moments();
   }
 
   /// All columns over the rows without a flag.
   std::vector<Statistics> statisticsOfAll(int p, const Denominator& denominator) const {
     std::vector<Statistics> all(static_cast<std::size_t>(std::max(p, 0)));
     if (p < 1) return all;
-    shared_rows::RowBlocks rows(n_, rowFlags_, given_);
+    shared_rows::RowBlocks rows(n_, rowFlags_, givenWeights_);
     shared_rows::Columns columns(p);
     while (rows.next()) {
       columns.add(rows, [this](int j) { return column(j); }, {});
@@ -77,39 +78,26 @@ class Columns {
   }
 
   /// The mean alone.
-  double meanOf(int j) const {
-    double mean = 0.0;
-    double total = 0.0;
-    forEachRow(usable::NotExcludedIfGiven(rowFlags_), [&](int i, double w) {
-      total += w;
-      mean += (w / total) * (column(j)[i] - mean);
-    });
-    return mean;
-  }
+  double meanOf(int j) const { return accumulated<moments::Mean>(j, notExcluded()).value(); }
 
   /// Sum of the squares of the cells that are present, in rows that take part.
   double squaresOf(int j) const {
-    const usable::Present present(column(j), flags_.column(j));
+    const usable::Present isPresent = present(j);
     double sum = 0.0;
-    forEachRow(usable::NotExcludedIfGiven(rowFlags_), [&](int i, double) {
-      if (present(i)) sum += column(j)[i] * column(j)[i];
+    usable::forEachTakingPart(n_, notExcluded(), weights_, [&](int i, double) {
+      if (isPresent(i)) sum += column(j)[i] * column(j)[i];
     });
     return sum;
   }
 
  private:
-  template <class Rule, class Visit>
-  void forEachRow(Rule rule, Visit visit) const {
-    for (int i = 0; i < n_; ++i) {
-      const double w = unweighted_ ? 1.0 : weights_[i];
-      if (rule(i) && w != 0.0) visit(i, w);
-    }
-  }
+  usable::Present present(int j) const { return {column(j), flags_.column(j)}; }
+  usable::NotExcludedIfGiven notExcluded() const { return usable::NotExcludedIfGiven(rowFlags_); }
 
-  template <class Rule>
-  Moments momentsOf(int j, Rule rule) const {
-    Moments m;
-    forEachRow(rule, [&](int i, double w) { m.add(column(j)[i], w); });
+  template <class Accumulator, class Rule>
+  Accumulator accumulated(int j, Rule rule) const {
+    Accumulator m;
+    usable::forEachTakingPart(n_, rule, weights_, [&](int i, double w) { m.add(column(j)[i], w); });
     return m;
   }
 
@@ -117,9 +105,8 @@ class Columns {
   block::Values cells_;
   block::Flags flags_;
   const short* rowFlags_;
-  const matrix* given_;
-  bool unweighted_;
-  block::Values weights_;
+  const matrix* givenWeights_;
+  usable::RowWeights weights_;
 };
 
 /// Writes a statistic to cell j of a vector, or flags the cell where there is none.
@@ -149,20 +136,29 @@ int statistics(const matrix* a, int n, int p, matrix* means, matrix* stdevs, mat
   return 0;
 }
 
-void prepare(matrix*& out, int n, int p) {
-  if (!addressing::designatesContainer(out)) out = new matrix(n, p);
-}
+/// Columns of a table transformed, of(x, mean, sd); sd is 0.0 where there is none.
+template <class Of>
+class TransformedColumns {
+ public:
+  TransformedColumns(const matrix* a, int n, int p, const matrix* means, const matrix* stdevs, Of of)
+      : cells_(a, n, p), centres_(means, p), scales_(stdevs, p), of_(of) {}
 
-/// target = of(x, mean, sd), column by column; sd is 0.0 where there is none.
+  auto operator()(int j) const {
+    return [of = of_, x = cells_.column(j), centre = centres_[j], scale = scales_[j]](int i) {
+      return of(x[i], centre, scale);
+    };
+  }
+
+ private:
+  block::Values cells_, centres_, scales_;
+  Of of_;
+};
+
 template <class Of>
 void transform(const matrix* a, int n, int p, const matrix* means, const matrix* stdevs, matrix* target,
                Of of) {
-  const block::Values cells(a, n, p), centres(means, p), scales(stdevs, p);
-  result::fillInto(target, n, p, [&](int j) {
-    return [of, x = cells.column(j), centre = centres[j], scale = scales[j]](int i) {
-      return of(x[i], centre, scale);
-    };
-  });
+  const TransformedColumns columns(a, n, p, means, stdevs, of);
+  results::fillInto(target, n, p, [&](int j) { return columns(j); });
 }
 
 constexpr auto centred = [](double x, double mean, double) { return x - mean; };
@@ -175,7 +171,7 @@ constexpr auto standardized = [](double x, double mean, double sd) {
 template <class Of>
 void transformByOwn(const matrix* a, int n, int p, const matrix* weights, matrix* target,
                     const Denominator& denominator, Of of) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   matrix means(p, 1, 0.0), stdevs(p, 1, 0.0);
   statistics(a, n, p, &means, &stdevs, nullptr, nullptr, weights, denominator, kFalse);
   // A column without a used row has no mean: centring leaves it as it is.
@@ -184,7 +180,7 @@ void transformByOwn(const matrix* a, int n, int p, const matrix* weights, matrix
 
 void threeByFirst(matrix* first, int n1, int p, matrix* second, int n2, matrix* third, int n3,
                   double factor) {
-  if (!result::hasCells(n1, p)) return;
+  if (!results::haveCells(n1, p)) return;
   matrix means(p, 1, 0.0), stdevs(p, 1, 0.0);
   statistics(first, n1, p, &means, &stdevs, nullptr, nullptr, nullptr, Denominator(kTrue, kTrue), kFalse);
   const auto scaled = [=](double x, double mean, double sd) {
@@ -195,39 +191,37 @@ void threeByFirst(matrix* first, int n1, int p, matrix* second, int n2, matrix* 
   if (third != nullptr) transform(third, n3, p, &means, &stdevs, third, scaled);
 }
 
-/// Each column as a vector of its own through byVector(vector, flags), and back into target.
+/// Each column as a vector of its own, with its flags, through byVector(vector, exclude, result), into target.
 template <class ByVector>
 void columnByColumn(const matrix* a, int n, int p, const short* flags, matrix* target, ByVector byVector) {
-  if (!result::hasCells(n, p)) return;
+  if (!results::haveCells(n, p)) return;
   const block::Values cells(a, n, p);
   const block::Flags missing(a, n, p);
   const std::vector<short> none(flags == nullptr ? static_cast<std::size_t>(n) : 0);
-  matrix whole(n, p, 0.0);
+  std::vector<double> whole(addressing::elementsInMemory<double>(n, p));
+  matrix vector(n, 1), result(n, 1), *made = &result;
   for (int j = 0; j < p; ++j) {
-    matrix vector(n, 1);
     std::copy_n(cells.column(j), n, vector.values);
-    for (int i = 0; i < n; ++i) {
-      if (missing.column(j)[i]) vector.values[i] = kMissing;
-    }
-    byVector(&vector, flags == nullptr ? none.data() : flags + std::ptrdiff_t{n} * j);
-    std::copy_n(vector.values, n, whole.values + std::ptrdiff_t{n} * j);
+    std::copy_n(missing.column(j), n, vector.missing);
+    byVector(&vector, flags == nullptr ? none.data() : flags + std::ptrdiff_t{n} * j, made);
+    std::copy_n(result.values, n, whole.data() + std::ptrdiff_t{n} * j);
   }
-  result::copyInto(target, n, p, whole.values);
+  results::copyInto(target, n, p, whole.data());
 }
 
 }  // namespace
 
 int M_MeanStDev(const matrix* a, int n, int p, matrix*& means, matrix*& stdevs, const short* rowFlags,
                 const matrix* weights, short unbiased, short frequencyWeights, short missingMode) {
-  matrix::matCheck(means, p, 1, 0.0);
-  if (stdevs != nullptr) matrix::matCheck(stdevs, p, 1, 0.0);
+  results::refill(means, p, 1);
+  if (stdevs != nullptr) results::refill(stdevs, p, 1);
   return statistics(a, n, p, means, stdevs, nullptr, rowFlags, weights,
                     Denominator(unbiased, frequencyWeights), missingMode);
 }
 
 int M_MeanStDevVar(const matrix* a, int n, int p, matrix*& means, matrix*& stdevs, matrix*& variances,
                    const short* rowFlags, const matrix* weights, short unbiased, short frequencyWeights) {
-  for (matrix** vector : {&means, &stdevs, &variances}) matrix::matCheck(*vector, p, 1, 0.0);
+  for (matrix** vector : {&means, &stdevs, &variances}) results::refill(*vector, p, 1);
   return statistics(a, n, p, means, stdevs, variances, rowFlags, weights,
                     Denominator(unbiased, frequencyWeights), kFalse);
 }
@@ -245,7 +239,7 @@ void M_MeanStDevVarOneInMat(const matrix* a, int n, int column, double* mean, do
 }
 
 int M_Mean(const matrix* a, int n, int p, matrix*& means, const short* rowFlags, const matrix* weights) {
-  matrix::matCheck(means, p, 1, 0.0);
+  results::refill(means, p, 1);
   if (p < 1) return 0;
   const Columns columns(a, n, p, rowFlags, weights);
   for (int j = 0; j < p; ++j) means->setElement(j, columns.meanOf(j));
@@ -255,7 +249,7 @@ int M_Mean(const matrix* a, int n, int p, matrix*& means, const short* rowFlags,
 void M_Center(const matrix* a, int n, int p, matrix*& out) { M_CenterW(a, n, p, nullptr, out); }
 
 void M_CenterW(const matrix* a, int n, int p, const matrix* weights, matrix*& out) {
-  prepare(out, n, p);
+  results::keepAny(out, n, p);
   transformByOwn(a, n, p, weights, out, Denominator(kFalse, kFalse), centred);
 }
 
@@ -268,7 +262,7 @@ void M_Reduce(const matrix* a, int n, int p, matrix*& out, short unbiased) {
 }
 
 void M_ReduceW(const matrix* a, int n, int p, const matrix* weights, matrix*& out, short unbiased) {
-  prepare(out, n, p);
+  results::keepAny(out, n, p);
   transformByOwn(a, n, p, weights, out, Denominator(unbiased, kFalse), reduced);
 }
 
@@ -286,13 +280,13 @@ void M_StandardizeW2(matrix*& a, int n, int p, const matrix* weights, short unbi
 
 void M_StandardizeW(const matrix* a, int n, int p, const matrix* weights, short unbiased,
                     short frequencyWeights, matrix*& out) {
-  prepare(out, n, p);
+  results::keepAny(out, n, p);
   transformByOwn(a, n, p, weights, out, Denominator(unbiased, frequencyWeights), standardized);
 }
 
 void M_Standardize3(matrix*& a, int n, int p, matrix*& means, matrix*& stdevs, short unbiased) {
-  matrix::matCheck(means, p, 1, 0.0);
-  matrix::matCheck(stdevs, p, 1, 0.0);
+  results::refill(means, p, 1);
+  results::refill(stdevs, p, 1);
   statistics(a, n, p, means, stdevs, nullptr, nullptr, nullptr, Denominator(unbiased, kTrue), kFalse);
   transform(a, n, p, means, stdevs, a, standardized);
 }
@@ -301,19 +295,21 @@ void M_Standardize(const matrix* a, int n, int p, matrix*& out, matrix*& means, 
                    matrix*& variances, const short* rowFlags, const matrix* weights, short unbiased,
                    short frequencyWeights) {
   M_MeanStDevVar(a, n, p, means, stdevs, variances, rowFlags, weights, unbiased, frequencyWeights);
-  if (!result::isWhole(out, n, p)) matrix::matCheck(out, n, p, 0.0);
-  transform(a, n, p, means, stdevs, out, standardized);
+  results::refilled(out, n, p, 1, [&](block::Target& target) {
+    const TransformedColumns columns(a, n, p, means, stdevs, standardized);
+    results::fill(target, n, p, [&](int j) { return columns(j); });
+  });
 }
 
 int M_StandardizeKnownMeansStDev(const matrix* a, int n, int p, const matrix* means, matrix*& out,
                                  const matrix* stdevs, matrix*& variances, const short* rowFlags) {
-  matrix::matCheck(variances, p, 1, 0.0);
+  results::refill(variances, p, 1);
   const block::Values cells(a, n, p), centres(means, p), scales(stdevs, p);
   const block::Flags missing(a, n, p);
   const usable::NotExcludedIfGiven used(rowFlags);
   for (int j = 0; j < p; ++j) variances->setElement(j, scales[j] * scales[j]);
-  prepare(out, n, p);
-  result::fillInto(out, n, p, [&](int j) {
+  results::keepAny(out, n, p);
+  results::fillInto(out, n, p, [&](int j) {
     const usable::Present present(cells.column(j), missing.column(j));
     return [=, centre = centres[j], scale = scales[j]](int i) {
       return used(i) && present(i) ? standardized(present.x[i], centre, scale) : present.x[i];
@@ -330,7 +326,7 @@ int M_StandardizeKnownMeansStDev(const matrix* a, int n, int p, const matrix* me
 
 void M_Normalize(matrix*& a, int n, int p, matrix*& norms, const short* rowFlags, const matrix* weights,
                  short, short) {
-  matrix::matCheck(norms, p, 1, 0.0);
+  results::refill(norms, p, 1);
   if (p < 1) return;
   const Columns columns(a, n, p, rowFlags, weights);
   matrix divisors(p, 1, 1.0);
@@ -352,11 +348,11 @@ void M_NormalizeMatrix(matrix*& first, int n1, int p, matrix*& second, int n2, m
 
 void M_StandardizeByVect(const matrix* a, int n, int p, const short* flags, const matrix* weights,
                          short unbiased, matrix*& out) {
-  prepare(out, n, p);
-  if (!result::hasCells(n, p)) return;
+  results::keepAny(out, n, p);
+  if (!results::haveCells(n, p)) return;
   const matrix ones(n, 1, 1.0);
-  columnByColumn(a, n, p, flags, out, [&](matrix* vector, const short* exclude) {
-    V_Standardize2(vector, n, exclude, weights == nullptr ? &ones : weights, unbiased);
+  columnByColumn(a, n, p, flags, out, [&](const matrix* vector, const short* exclude, matrix*& result) {
+    V_Standardize(vector, n, exclude, weights == nullptr ? &ones : weights, unbiased, result);
   });
 }
 
@@ -367,9 +363,10 @@ void M_StandardizeByVect2(matrix*& a, int n, int p, const short* flags, const ma
 
 void M_RescaleByVect(const matrix* a, int n, int p, double lower, double upper, const short* flags,
                      matrix*& out) {
-  prepare(out, n, p);
-  columnByColumn(a, n, p, flags, out,
-                 [&](matrix* vector, const short* exclude) { V_Rescale2(vector, n, lower, upper, exclude); });
+  results::keepAny(out, n, p);
+  columnByColumn(a, n, p, flags, out, [&](const matrix* vector, const short* exclude, matrix*& result) {
+    V_Rescale(vector, n, lower, upper, exclude, result);
+  });
 }
 
 void M_RescaleByVect2(matrix*& a, int n, int p, double lower, double upper, const short* flags) {

@@ -3,8 +3,9 @@
 //
 // On the way in a required array that is null although it should have cells ends the call with the entry's
 // failure value; an Optional one becomes a null container. On the way out nothing is written until the worker
-// has returned and everything that can still fail has been done: store() first prepares all results, then
-// writes them. A worker that cannot fail once it writes may do so Directly.
+// has returned and everything that can still fail has been done: store() first lets every result reserve()
+// what it needs, then write(). A worker that cannot fail once it writes may work InPlaceUnlessRead. Row flags
+// are handed to the worker as they are and need no adaptor.
 #pragma once
 
 #include <algorithm>
@@ -14,13 +15,13 @@
 #include <stdexcept>
 #include <utility>
 
-#include "core/Smatrix.h"
 #include "core/addressing.h"
 #include "core/local_matrix.h"
-#include "core/matrix.h"
+#include "kavoratb1c/Smatrix.h"
+#include "kavoratb1c/matrix.h"
 #include "platform/ole_strings.h"
 
-namespace bridge {
+namespace kav::bridge {
 
 /// How the doubles of an input array become cells.
 enum class Cells {
@@ -65,14 +66,15 @@ class InTable {
   LocalMatrix table_;
 };
 
-/// Operands of a worker that does nothing that can fail once it writes to its only result, of which it writes
-/// every cell, or rewrites some. It may write to the macro's array itself, unless it reads from there: of a
-/// table that is no more work than a copy, fresh memory and the copy would be most of the cost.
-class Directly {
+/// Lets a worker write to the macro's array itself, unless it reads one of these operands from there. For
+/// workers that do nothing that can fail once they write to their only result, of which they write every cell,
+/// or rewrite some: of a table that is no more work than a copy, fresh memory and the copy would be most of
+/// the cost.
+class InPlaceUnlessRead {
  public:
-  constexpr Directly() : operands_{nullptr, nullptr} {}
-  explicit Directly(const InTable& a) : operands_{&a, nullptr} {}
-  Directly(const InTable& a, const InTable& b) : operands_{&a, &b} {}
+  constexpr InPlaceUnlessRead() : operands_{nullptr, nullptr} {}
+  explicit InPlaceUnlessRead(const InTable& a) : operands_{&a, nullptr} {}
+  InPlaceUnlessRead(const InTable& a, const InTable& b) : operands_{&a, &b} {}
 
   bool readFrom(const double* array, std::int64_t cells) const {
     return std::any_of(operands_, operands_ + 2,
@@ -102,8 +104,7 @@ class OptionalVector {
   std::optional<InVector> vector_;
 };
 
-/// A table of integers or of flags that is data, read only; never a missing cell. Flags that leave rows out
-/// are handed to the worker as they are and need no adaptor.
+/// A table of integers or of flags that is data, read only; never a missing cell.
 template <class Element>
 class InIntegers {
  public:
@@ -147,7 +148,7 @@ class OutArray {
   OutArray(Element* array, int n, int p) : array_(array), given_(std::in_place, n, p), result_(&*given_) {}
 
   /// The same; it may be the array itself.
-  OutArray(Element* array, int n, int p, const Directly& operands) : array_(array) {
+  OutArray(Element* array, int n, int p, const InPlaceUnlessRead& operands) : array_(array) {
     if (operands.readFrom(array, addressing::cellCount(n, p))) {
       given_.emplace(n, p);
     } else {
@@ -163,7 +164,7 @@ class OutArray {
 
   operator matrix*&() { return result_; }
 
-  void prepare() const {
+  void reserve() const {
     if (result_ != nullptr) required(array_, result_->nX, result_->pX);
   }
   void write() const noexcept {
@@ -173,7 +174,8 @@ class OutArray {
  protected:
   /// What the array holds matters.
   struct Rewritten {};
-  OutArray(Element* array, int n, int p, const Directly& operands, Cells cells, Rewritten) : array_(array) {
+  OutArray(Element* array, int n, int p, const InPlaceUnlessRead& operands, Cells cells, Rewritten)
+      : array_(array) {
     const bool keepAll = cells == Cells::KeepAll;
     if (operands.readFrom(array, addressing::cellCount(n, p))) {
       given_.emplace(n, p, required(array, n, p), keepAll);
@@ -207,7 +209,7 @@ class InOutArray : public OutArray<Element> {
       : OutArray<Element>(array, n, p, cells) {}
 
   /// The worker may see the array itself.
-  InOutArray(Element* array, int n, int p, const Directly& operands, Cells cells = Cells::KeepAll)
+  InOutArray(Element* array, int n, int p, const InPlaceUnlessRead& operands, Cells cells = Cells::KeepAll)
       : OutArray<Element>(array, n, p, operands, cells, typename OutArray<Element>::Rewritten()) {}
 };
 
@@ -224,7 +226,7 @@ class OutText {
 
   operator Smatrix*&() { return result_; }
 
-  void prepare() {
+  void reserve() {
     if (result_ == nullptr) return;
     required(array_, result_->nX, result_->pX);
     strings_.make(result_->cells, static_cast<std::size_t>(addressing::cellCount(*result_)));
@@ -255,11 +257,44 @@ class InOutText : public OutText {
   Smatrix* given_;
 };
 
+/// A result of one cell, which the macro may leave out: null is not written.
+template <class T>
+class OutScalar {
+ public:
+  explicit OutScalar(T* cell) : cell_(cell) {}
+  OutScalar(const OutScalar&) = delete;
+
+  operator T*() { return &value_; }
+  operator T&() { return value_; }
+
+  void reserve() const {}
+  void write() const noexcept {
+    if (cell_ != nullptr) *cell_ = value_;
+  }
+
+ protected:
+  OutScalar(T* cell, T value) : cell_(cell), value_(value) {}
+
+ private:
+  T* cell_;
+  T value_{};
+};
+
+using OutDouble = OutScalar<double>;
+using OutInt = OutScalar<int>;
+using OutFlag = OutScalar<VARIANT_BOOL>;
+
+/// One integer that the worker reads and rewrites; required.
+class InOutInt : public OutScalar<int> {
+ public:
+  explicit InOutInt(int* cell) : OutScalar<int>(cell, *required(cell, 1, 1)) {}
+};
+
 /// Writes the results of a call to the macro's arrays: all of them, or none when one of them cannot be.
 template <class... Results>
 void store(Results&... results) {
-  (results.prepare(), ...);
+  (results.reserve(), ...);
   (results.write(), ...);
 }
 
-}  // namespace bridge
+}  // namespace kav::bridge

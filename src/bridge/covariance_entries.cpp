@@ -1,8 +1,11 @@
-// Entries of the table family: covariances, correlations, distances, similarities.
+// Entries of covariances, correlations, distances and similarities.
 
-#include "algebra/covariance.h"
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
+#include "kavoratb1c/algebra/covariance.h"
+#include "kavoratb1c/algebra/similarities.h"
+
+using namespace kav;
 
 using namespace bridge;
 

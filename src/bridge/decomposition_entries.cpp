@@ -1,20 +1,22 @@
-// Entries of the table family: factorizations, solvers, singular values, eigenvalues.
-
-#include <algorithm>
+// Entries of the decompositions: factorizations, solvers, singular values, eigenvalues.
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "core/results.h"
-#include "decomp/collinearity.h"
-#include "decomp/eigen.h"
-#include "decomp/elimination.h"
-#include "decomp/logarithms.h"
+#include "decomp/bidiagonal.h"
 #include "decomp/packed.h"
-#include "decomp/singular_values.h"
-#include "decomp/triangular.h"
+#include "kavoratb1c/decomp/cholesky.h"
+#include "kavoratb1c/decomp/collinearity.h"
+#include "kavoratb1c/decomp/eigen.h"
+#include "kavoratb1c/decomp/elimination.h"
+#include "kavoratb1c/decomp/factors.h"
+#include "kavoratb1c/decomp/inverse_triangular.h"
+#include "kavoratb1c/decomp/inverses.h"
+#include "kavoratb1c/decomp/lu.h"
+#include "kavoratb1c/decomp/singular_values.h"
+
+using namespace kav;
 
 using namespace bridge;
-using results::give;
 
 int entries::VB_M_CholDecomp(double* iAMat, int n, double* oMat) {
   const InTable a(iAMat, n, n);
@@ -36,36 +38,38 @@ int entries::VB_M_CholDecompCleaned(double* iMat, int p, int* iConstraints, doub
 void entries::VB_M_LUDecomp(double* iAMat, int n, int* indx, double* d, VARIANT_BOOL* Problem) {
   InOutTable a(iAMat, n, n);
   OutInts index(indx, n, 1);
-  double parity;
-  short status;
+  OutDouble parity(d);
+  OutFlag status(Problem);
   M_LUDecomp(a, n, index, parity, status);
-  if (status >= 0) store(a, index);
-  give(d, parity);
-  give(Problem, status);
+  if (status < 0) {
+    store(parity, status);
+  } else {
+    store(a, index, parity, status);
+  }
 }
 
 double entries::VB_M_DeterminantTriang(double* iAMat, int n, VARIANT_BOOL* Problem) {
   const InTable t(iAMat, n, n);
-  short status;
+  OutFlag status(Problem);
   const double determinant = M_DeterminantTriang(t, n, status);
-  give(Problem, status);
+  store(status);
   return determinant;
 }
 
 double entries::VB_M_Determinant(double* iAMat, int n, VARIANT_BOOL* Problem) {
   const InTable a(iAMat, n, n);
-  short status;
+  OutFlag status(Problem);
   const double determinant = M_Determinant(a, n, status);
-  give(Problem, status);
+  store(status);
   return determinant;
 }
 
 double entries::VB_M_DeterminantCleaned(double* iMat, int p, int* iConstraints, VARIANT_BOOL* Problem) {
   const InTable a(iMat, p, p);
   const InInts excluded(iConstraints, p);
-  short status;
+  OutFlag status(Problem);
   const double determinant = M_DeterminantCleaned(a, p, excluded, status);
-  give(Problem, status);
+  store(status);
   return determinant;
 }
 
@@ -76,24 +80,6 @@ int entries::VB_M_InverseTriang(double* iTriangMat, int n, VARIANT_BOOL iIsLower
   const int status = M_InverseTriang(t, n, iIsLower, inverse, Eps);
   store(inverse);
   return status;
-}
-
-VARIANT_BOOL entries::VB_M_IsPositive(double* iAMat, int n, int p, VARIANT_BOOL* iMissing,
-                                      VARIANT_BOOL iStrictly) {
-  const InTable a(iAMat, n, p);
-  return M_IsPositive(a, n, p, iMissing, iStrictly);
-}
-
-void entries::VB_M_LogMatrix(double* iAMat, int n, int p, VARIANT_BOOL* iMissing) {
-  InOutTable a(iAMat, n, p);
-  M_LogMatrix(a, n, p, iMissing);
-  store(a);
-}
-
-void entries::VB_M_Log10Matrix(double* ioMat, int n, int p) {
-  InOutTable a(ioMat, n, p);
-  M_Log10Matrix(a, n, p);
-  store(a);
 }
 
 int entries::VB_M_Gauss(double* ioMat1, int n, int p, double* ioMat2) {
@@ -115,11 +101,9 @@ int entries::VB_M_Sweep(double* t, int n, int k) {
 int entries::VB_M_InvGeneralized(double* iMat, int n, double* oInvMat, double iEps, int* oRank) {
   const InTable a(iMat, n, n);
   OutTable inverse(oInvMat, n, n);
-  int rank;
+  OutInt rank(oRank);
   const int status = M_InvGeneralized(a, n, inverse, iEps, rank);
-  if (status != 0) return status;
-  store(inverse);
-  give(oRank, rank);
+  if (status == 0) store(inverse, rank);
   return status;
 }
 
@@ -158,15 +142,14 @@ void entries::VB_CheckTolerance(double* R, int p, int NbFactors, int* FactActive
 
 void entries::VB_M_SVDecomp(double* X, int n, int p, double* s, double* u, int ldu, double* v, int ldv,
                             int job, int* info) {
-  const int left = job % 100 / 10, order = static_cast<int>(std::min<std::int64_t>(std::int64_t{n} + 1, p));
+  const bidiagonal::Job wanted(n, p, job);
   InOutTable x(X, n, p);
-  OutTable values(s, order, 1);
-  OutTable leftVectors(u, left == 0 ? 0 : n, left > 1 ? std::min(n, p) : n);
-  OutTable rightVectors(v, job % 10 == 0 ? 0 : p, p);
-  int failed;
+  OutTable values(s, wanted.order(), 1);
+  OutTable leftVectors(u, wanted.left ? n : 0, wanted.leftColumns);
+  OutTable rightVectors(v, wanted.right ? p : 0, p);
+  OutInt failed(info);
   M_SVDecomp(x, n, p, values, leftVectors, ldu, rightVectors, ldv, job, failed);
-  store(x, values, leftVectors, rightVectors);
-  give(info, failed);
+  store(x, values, leftVectors, rightVectors, failed);
 }
 
 int entries::VB_M_Eigen(double* iMat, double* oEigenVal, double* oEigenVect, int n, VARIANT_BOOL iSort) {
@@ -182,11 +165,9 @@ void entries::VB_FilterEigen(double* iEigenValues, int p, VARIANT_BOOL iDoFilter
                              double* Percent) {
   InOutTable values(iEigenValues, p, 1);
   OutTable percentages(Percent, p, 1);
-  int kept, selected;
+  OutInt kept(oNbEigen), selected(oDispEigen);
   FilterEigen(values, p, iDoFilter, iFilter, iMinPerc, iMaxFact, iMaxVal, kept, selected, percentages);
-  store(values, percentages);
-  give(oNbEigen, kept);
-  give(oDispEigen, selected);
+  store(values, percentages, kept, selected);
 }
 
 void entries::ComputeCosines(double* iMat, int n, int p, double* oCosines) {

@@ -1,14 +1,17 @@
-// Entries of the table family: scaled, summed, transposed, inverted.
+// Entries of matrices cell by cell: scaled, summed, transposed, inverted, logarithms.
 
-#include "algebra/elementwise.h"
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
+#include "kavoratb1c/algebra/elementwise.h"
+#include "kavoratb1c/algebra/logarithms.h"
+
+using namespace kav;
 
 using namespace bridge;
 
 void entries::VB_M_ScalarsA(double* iAMat, int n, int p, double s, double* osAMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable c(osAMat, n, p, Directly(a));
+  OutTable c(osAMat, n, p, InPlaceUnlessRead(a));
   M_ScalarsA(a, n, p, s, c);
   store(c);
 }
@@ -21,14 +24,14 @@ void entries::VB_M_ScalarsA2(double* iAMat, int n, int p, double s) {
 
 void entries::VB_M_ScalarsTrA(double* iAMat, int n, int p, double s, double* osTrAMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable c(osTrAMat, p, n, Directly(a));
+  OutTable c(osTrAMat, p, n, InPlaceUnlessRead(a));
   M_ScalarsTrA(a, n, p, s, c);
   store(c);
 }
 
 void entries::VB_M_APlusVal(double* iAMat, int n, int p, double ival, double* oAPlusVal) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable c(oAPlusVal, n, p, Directly(a));
+  OutTable c(oAPlusVal, n, p, InPlaceUnlessRead(a));
   M_APlusVal(a, n, p, ival, c);
   store(c);
 }
@@ -37,7 +40,7 @@ void entries::VB_M_Sums1As2B(double* iAMat, int n, int p, double* iBMat, double 
                              double* oCMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
   const InTable b(iBMat, n, p, Cells::KeepAll);
-  OutTable c(oCMat, n, p, Directly(a, b));
+  OutTable c(oCMat, n, p, InPlaceUnlessRead(a, b));
   M_Sums1As2B(a, n, p, b, s1, S2, c);
   store(c);
 }
@@ -50,7 +53,7 @@ void entries::VB_M_Square(double* ioMat, int n, int p) {
 
 int entries::VB_M_Transpose(double* iAMat, int n, int p, double* oTransMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
-  OutTable c(oTransMat, p, n, Directly(a));
+  OutTable c(oTransMat, p, n, InPlaceUnlessRead(a));
   const int status = M_Transpose(a, n, p, c);
   store(c);
   return status;
@@ -126,4 +129,16 @@ int entries::VB_M_Inverse1(double* iAMat, int n, double* oInvMat, double Eps) {
   const int status = table->inverse1(c, singular, Eps);
   if (status == 0) store(c);
   return status;
+}
+
+void entries::VB_M_LogMatrix(double* iAMat, int n, int p, VARIANT_BOOL* iMissing) {
+  InOutTable a(iAMat, n, p);
+  M_LogMatrix(a, n, p, iMissing);
+  store(a);
+}
+
+void entries::VB_M_Log10Matrix(double* ioMat, int n, int p) {
+  InOutTable a(ioMat, n, p);
+  M_Log10Matrix(a, n, p);
+  store(a);
 }

@@ -2,8 +2,10 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "missing/estimates.h"
-#include "missing/nearest_neighbours.h"
+#include "kavoratb1c/missing/estimates.h"
+#include "kavoratb1c/missing/nearest_neighbours.h"
+
+using namespace kav;
 
 using namespace bridge;
 

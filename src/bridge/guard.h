@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-#include "core/marker.h"
+#include "kavoratb1c/marker.h"
 #include "platform/exception_state.h"
 #include "platform/floating_point.h"
 #include "platform/ole.h"
@@ -14,6 +14,8 @@
 #else
 #define KAV_ENTRY __attribute__((visibility("default")))
 #endif
+
+namespace kav {
 
 /// What an entry returns when its body did not: the marker for a number, -1 for a status or count, false, a
 /// null string.
@@ -42,3 +44,5 @@ Result guarded(const Body& body) noexcept {
   forgetHandledException();
   return failureValue<Result>();
 }
+
+}  // namespace kav

@@ -4,7 +4,9 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "tables/merges.h"
+#include "kavoratb1c/tables/merges.h"
+
+using namespace kav;
 
 using namespace bridge;
 
@@ -15,14 +17,14 @@ using addressing::together;
 /// a, at its right b, straight to the macro's array where it shares none with them.
 void sideBySide(double* first, int n1, int p1, double* second, int n2, int p2, double* merged) {
   const InTable a(first, n1, p1, Cells::KeepAll), b(second, n2, p2, Cells::KeepAll);
-  OutTable c(merged, std::max(n1, n2), together(p1, p2), Directly(a, b));
+  OutTable c(merged, std::max(n1, n2), together(p1, p2), InPlaceUnlessRead(a, b));
   HMergeTables(a, n1, p1, b, n2, p2, c);
   store(c);
 }
 
 void below(double* first, int n1, int p1, double* second, int n2, int p2, double* merged) {
   const InTable a(first, n1, p1, Cells::KeepAll), b(second, n2, p2, Cells::KeepAll);
-  OutTable c(merged, together(n1, n2), std::max(p1, p2), Directly(a, b));
+  OutTable c(merged, together(n1, n2), std::max(p1, p2), InPlaceUnlessRead(a, b));
   VMergeTables(a, n1, p1, b, n2, p2, c);
   store(c);
 }

@@ -2,8 +2,10 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "missing/missing_cells.h"
-#include "missing/missing_values.h"
+#include "kavoratb1c/missing/missing_cells.h"
+#include "kavoratb1c/missing/missing_values.h"
+
+using namespace kav;
 
 using namespace bridge;
 
@@ -11,26 +13,33 @@ VARIANT_BOOL entries::VB_IsMissingValueDbl(double iValue) { return IsMissingValu
 
 VARIANT_BOOL entries::VB_IsMissingValueStr(BSTR iValue) { return IsMissingValueStr(textOf(iValue)); }
 
-int entries::VB_InitVectorToFalse(VARIANT_BOOL* oVector, int n) {
-  OutFlags result(oVector, n, 1);
-  const int status = InitVectorToFalse(result, n);
-  store(result);
-  return status;
+void entries::VB_V_GetMissingDbl(double* iVector, int n, VARIANT_BOOL* iMissing, VARIANT_BOOL* oMissing) {
+  const InVector x(iVector, n);
+  OutFlags missing(oMissing, n, 1);
+  V_GetMissingDbl(x, n, iMissing, missing);
+  store(missing);
+}
+
+void entries::VB_V_GetMissingStr(BSTR* iVectMat, int n, VARIANT_BOOL* iMissing, VARIANT_BOOL* oMissing) {
+  const InText labels(iVectMat, n);
+  OutFlags missing(oMissing, n, 1);
+  V_GetMissingStr(labels, n, iMissing, missing);
+  store(missing);
 }
 
 void entries::VB_M_NbMissing(double* iMat, int n, int p, int* NbMissing) {
   const InTable a(iMat, n, p);
-  M_NbMissing(a, n, p, NbMissing);
+  M_NbMissing(a, n, p, required(NbMissing, p, 1));
 }
 
 void entries::VB_M_NbMissingStr(BSTR* iMat, int n, int p, int* NbMissing) {
   const InText a(iMat, n, p);
-  M_NbMissing(a, n, p, NbMissing);
+  M_NbMissing(a, n, p, required(NbMissing, p, 1));
 }
 
 void entries::VB_M_NbNonMissing(double* iMat, int n, int p, int* NbNonMissing) {
   const InTable a(iMat, n, p);
-  M_NbNonMissing(a, n, p, NbNonMissing);
+  M_NbNonMissing(a, n, p, required(NbNonMissing, p, 1));
 }
 
 void entries::VB_M_AllMissingRows(double* iMat, int n, int p, VARIANT_BOOL* missing,
@@ -47,12 +56,16 @@ void entries::VB_M_AllMissingRowsStr(BSTR* iMat, int n, int p, VARIANT_BOOL* mis
 
 void entries::VB_SummarizeMissing(int n, int* oNbMissing, VARIANT_BOOL* oMissing, VARIANT_BOOL* iMissing1,
                                   VARIANT_BOOL* iMissing2, VARIANT_BOOL* iMissing3) {
-  SummarizeMissing(n, oNbMissing, oMissing, iMissing1, iMissing2, iMissing3);
+  OutInt count(oNbMissing);
+  SummarizeMissing(n, count, oMissing, iMissing1, iMissing2, iMissing3);
+  store(count);
 }
 
 void entries::VB_SummarizeAllMissing(int n, VARIANT_BOOL* AllMissingX, VARIANT_BOOL* AllMissingQ,
                                      int* NbAllMissing, VARIANT_BOOL* AllMissing) {
-  SummarizeAllMissing(n, AllMissingX, AllMissingQ, NbAllMissing, AllMissing);
+  OutInt count(NbAllMissing);
+  SummarizeAllMissing(n, AllMissingX, AllMissingQ, count, AllMissing);
+  store(count);
 }
 
 void entries::VB_RemoveRowsWithMissing(double* ioTable, int n, int p, int NbMissing, VARIANT_BOOL* iMissing,

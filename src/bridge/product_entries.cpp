@@ -1,12 +1,13 @@
-// Entries of the table family: products.
-
-#include "algebra/products.h"
+// Entries of matrix products.
 
 #include <algorithm>
 
-#include "algebra/elementwise.h"
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
+#include "kavoratb1c/algebra/elementwise.h"
+#include "kavoratb1c/algebra/products.h"
+
+using namespace kav;
 
 using namespace bridge;
 
@@ -86,7 +87,7 @@ void entries::VB_M_ProductTrADA(double* iAMat, int n, int p, double* iDiagMat, d
 void entries::VB_M_ProductADiag(double* iAMat, int n, int p, double* iDiagMat, double* oADiagMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
   const InTable d(iDiagMat, p, p, Cells::KeepAll);
-  OutTable c(oADiagMat, n, p, Directly(a, d));
+  OutTable c(oADiagMat, n, p, InPlaceUnlessRead(a, d));
   M_ProductADiag(a, n, p, d, c);
   store(c);
 }
@@ -94,7 +95,7 @@ void entries::VB_M_ProductADiag(double* iAMat, int n, int p, double* iDiagMat, d
 void entries::VB_M_ProductTrADiag(double* iAMat, int n, int p, double* iDiagMat, double* oTrADiagMat) {
   const InTable a(iAMat, n, p, Cells::KeepAll);
   const InTable d(iDiagMat, n, n, Cells::KeepAll);
-  OutTable c(oTrADiagMat, p, n, Directly(a, d));
+  OutTable c(oTrADiagMat, p, n, InPlaceUnlessRead(a, d));
   M_ProductTrADiag(a, n, p, d, c);
   store(c);
 }
@@ -170,7 +171,7 @@ double entries::VB_M_ProductTrV1BV2(double* iVect1, int n, double* iBMat, double
 void entries::VB_M_ProductADiagV(double* iMat, int n, int p, double* iDiagVect, double* oMat) {
   const InTable a(iMat, n, p, Cells::KeepAll);
   const InVector v(iDiagVect, p, Cells::KeepAll);
-  OutTable c(oMat, n, p, Directly(a, v));
+  OutTable c(oMat, n, p, InPlaceUnlessRead(a, v));
   M_ProductADiagV(a, n, p, v, c);
   store(c);
 }
@@ -178,7 +179,7 @@ void entries::VB_M_ProductADiagV(double* iMat, int n, int p, double* iDiagVect, 
 void entries::VB_M_ProductDiagVA(double* iDiagVect, int n, double* iMat, int p, double* oMat) {
   const InVector v(iDiagVect, n, Cells::KeepAll);
   const InTable a(iMat, n, p, Cells::KeepAll);
-  OutTable c(oMat, n, p, Directly(v, a));
+  OutTable c(oMat, n, p, InPlaceUnlessRead(v, a));
   M_ProductDiagVA(v, n, a, p, c);
   store(c);
 }
@@ -212,7 +213,7 @@ void entries::VB_M_ProductADiagVTrA(double* iMat, int n, int p, double* iDiagVec
 void entries::VB_M_ProductByElement(double* iMat1, int n, int p, double* iMat2, double* oMat) {
   const InTable a(iMat1, n, p, Cells::KeepAll);
   const InTable b(iMat2, n, p, Cells::KeepAll);
-  OutTable c(oMat, n, p, Directly(a, b));
+  OutTable c(oMat, n, p, InPlaceUnlessRead(a, b));
   M_ProductByElement(a, n, p, b, c);
   store(c);
 }
@@ -233,22 +234,20 @@ void entries::VB_M_ProductHorizAB(double* iMat1, int n, int p1, double* iMat2, i
 }
 
 void entries::VB_M_ProductHorizAB2(double* ioMat1, int n, int* iop1, double* iMat2, int p2) {
-  int p1 = *required(iop1, 1, 1);
+  InOutInt p1(iop1);
   InOutTable a(ioMat1, n, p1, Cells::KeepAll);
   const InTable b(iMat2, n, p2, Cells::KeepAll);
-  M_ProductHorizAB2(a, n, &p1, b, p2);
-  store(a);
-  *iop1 = p1;
+  M_ProductHorizAB2(a, n, p1, b, p2);
+  store(a, p1);
 }
 
 void entries::VB_M_ProductDesignAB2(double* ioMat1, int n, int* iop1, double* iMat2, int p2,
                                     int iConstraintType, double* w, double* oInterFreqCat) {
-  int p1 = *required(iop1, 1, 1);
+  InOutInt p1(iop1);
   InOutTable a(ioMat1, n, p1, Cells::KeepAll);
   const InTable b(iMat2, n, p2, Cells::KeepAll);
   const OptionalVector weights(iConstraintType == 3 ? required(w, n, 1) : w, n);
   OutTable frequencies(oInterFreqCat);
-  M_ProductDesignAB2(a, n, &p1, b, p2, iConstraintType, weights, frequencies);
-  store(a, frequencies);
-  *iop1 = p1;
+  M_ProductDesignAB2(a, n, p1, b, p2, iConstraintType, weights, frequencies);
+  store(a, frequencies, p1);
 }

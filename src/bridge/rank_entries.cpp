@@ -1,11 +1,12 @@
-// Entries of the vector family: quantiles, ranks, positions, frequencies.
+// Entries of the vector family: quantiles, ranks, frequencies.
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "core/results.h"
-#include "stats/frequencies.h"
-#include "stats/quantiles.h"
-#include "stats/ranks.h"
+#include "kavoratb1c/stats/frequencies.h"
+#include "kavoratb1c/stats/quantiles.h"
+#include "kavoratb1c/stats/ranks.h"
+
+using namespace kav;
 
 using namespace bridge;
 
@@ -50,10 +51,9 @@ void entries::VB_V_GetRanksTiesDbl(double* iVect1, int n, double* w, double* oRa
   const InVector x(iVect1, n, Cells::KeepAll);
   const InVector weights(w, n);
   OutTable ranks(oRanks, n, 1), sizes(oNbTies, 0, 1);
-  int ties;
-  V_GetRanksTies(x, n, weights, ranks, &ties, sizes);
-  store(ranks, sizes);
-  results::give(oNbTiedVal, ties);
+  OutInt ties(oNbTiedVal);
+  V_GetRanksTies(x, n, weights, ranks, ties, sizes);
+  store(ranks, sizes, ties);
 }
 
 void entries::VB_V_GetRanksTiesIntDbl(double* iVect1, int n, double* w, double* oRanks, int* oNbTiedVal,
@@ -61,10 +61,9 @@ void entries::VB_V_GetRanksTiesIntDbl(double* iVect1, int n, double* w, double* 
   const InVector x(iVect1, n, Cells::KeepAll);
   const InVector weights(w, n);
   OutTable ranks(oRanks, n, 1), sizes(oNbTies, 0, 1);
-  int ties;
-  V_GetRanksTiesInt(x, n, weights, ranks, &ties, sizes);
-  store(ranks, sizes);
-  results::give(oNbTiedVal, ties);
+  OutInt ties(oNbTiedVal);
+  V_GetRanksTiesInt(x, n, weights, ranks, ties, sizes);
+  store(ranks, sizes, ties);
 }
 
 int entries::VB_V_NbDistinct(double* iVect, int n) {
@@ -75,27 +74,9 @@ int entries::VB_V_NbDistinct(double* iVect, int n) {
 void entries::VB_V_ExtractDistinct(double* iVect, int n, double* oVect, int* k) {
   const InVector x(iVect, n, Cells::KeepAll);
   OutTable distinct(oVect);
-  int count;
-  V_ExtractDistinct(x, n, distinct, &count);
-  store(distinct);
-  results::give(k, count);
-}
-
-double entries::VB_V_TimeIntervalSize(double* iVect, int n, VARIANT_BOOL iDoSort) {
-  const InVector x(iVect, n);
-  return V_TimeIntervalSize(x, n, iDoSort);
-}
-
-void entries::VB_V_GetPositionInMatNNp1o2(int iPos, int n, int* oX, int* oY) {
-  V_GetPositionInMatNNp1o2(iPos, n, oX, oY);
-}
-
-void entries::VB_V_GetPositionInMatNNm1o2(int iPos, int n, int* oX, int* oY) {
-  V_GetPositionInMatNNm1o2(iPos, n, oX, oY);
-}
-
-void entries::VB_V_GetPositionInMatNN(int iPos, int n, int* oX, int* oY) {
-  V_GetPositionInMatNN(iPos, n, oX, oY);
+  OutInt count(k);
+  V_ExtractDistinct(x, n, distinct, count);
+  store(distinct, count);
 }
 
 double entries::VB_V_Freq(double* iVector, int n, double* w, double iValue, double iEpsilon) {

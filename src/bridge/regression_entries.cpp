@@ -2,16 +2,17 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "regression/least_squares.h"
-#include "regression/newton_raphson.h"
+#include "kavoratb1c/regression/least_squares.h"
+#include "kavoratb1c/regression/newton_raphson.h"
+#include "regression/design.h"
+
+using namespace kav;
 
 using namespace bridge;
 
 namespace {
 
 constexpr int kNothingToFit = -1;
-
-bool hasDesign(int n, int p, int degree) { return n >= 1 && p >= 1 && degree >= 1; }
 
 }  // namespace
 

@@ -1,32 +1,15 @@
-// Entries of the sampling family.
+// Entries of the sampling family: samples of rows, indicators.
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "core/results.h"
-#include "sampling/samples.h"
+#include "kavoratb1c/sampling/indicators.h"
+#include "kavoratb1c/sampling/samples.h"
+
+using namespace kav;
 
 using namespace bridge;
 
 namespace {
-
-/// The seeds of a call, kept from the macro until its results are there.
-class Seeds {
- public:
-  Seeds(int* seed, int* next) : toSeed_(required(seed, 1, 1)), toNext_(next), seed_(*seed) {}
-
-  int* seed() { return &seed_; }
-  int* next() { return &next_; }
-
-  void prepare() const {}
-  void write() const noexcept {
-    *toSeed_ = seed_;
-    results::give(toNext_, next_);
-  }
-
- private:
-  int *toSeed_, *toNext_;
-  int seed_, next_ = 0;
-};
 
 /// Runs a scheme that draws at random.
 template <class Scheme>
@@ -35,9 +18,10 @@ void draw(Scheme scheme, BSTR* iMat, int n, int p, int size, BSTR* oMat, double*
   const InText a(iMat, n, p);
   OutText rows(oMat);
   OutTable positions(idx, size, 1);
-  Seeds seeds(ioSeed, oSeed);
-  scheme(a, n, p, size, rows, positions, seeds.seed(), iSeedInit, seeds.next());
-  store(rows, positions, seeds);
+  InOutInt seed(ioSeed);
+  OutInt next(oSeed);
+  scheme(a, n, p, size, rows, positions, seed, iSeedInit, next);
+  store(rows, positions, seed, next);
 }
 
 }  // namespace
@@ -77,7 +61,14 @@ void entries::VB_M_SampleUserDefined(BSTR* iMat, int n, int p, BSTR* oMat, doubl
 void entries::VB_GenerateRandomIndicator(double* iVector, int n, int n1, int* ioSeed, VARIANT_BOOL iSeedInit,
                                          int* oSeed) {
   OutTable x(iVector, n, 1);
-  Seeds seeds(ioSeed, oSeed);
-  GenerateRandomIndicator(x, n, n1, seeds.seed(), iSeedInit, seeds.next());
-  store(x, seeds);
+  InOutInt seed(ioSeed);
+  OutInt next(oSeed);
+  GenerateRandomIndicator(x, n, n1, seed, iSeedInit, next);
+  store(x, seed, next);
+}
+
+void entries::VB_GenerateIndicator(double* iVector, int n, int iStart, int iEnd) {
+  OutTable x(iVector, n, 1, InPlaceUnlessRead());
+  GenerateIndicator(x, n, iStart, iEnd);
+  store(x);
 }

@@ -2,7 +2,9 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "sort/sorts.h"
+#include "kavoratb1c/sort/sorts.h"
+
+using namespace kav;
 
 using namespace bridge;
 

@@ -1,15 +1,17 @@
-// Entries of the table family: means and deviations of columns, centred and standardized tables.
+// Entries of standardization: means and standard deviations of columns, centred and standardized tables.
 
-#include "algebra/standardization.h"
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
+#include "kavoratb1c/algebra/standardization.h"
+
+using namespace kav;
 
 using namespace bridge;
 
 namespace {
 
 /// Of workers that know all statistics, the weights used, before they transform the first cell.
-constexpr Directly kStatisticsFirst;
+constexpr InPlaceUnlessRead kStatisticsFirst;
 
 }  // namespace
 
@@ -172,7 +174,9 @@ void entries::VB_M_MeanStDevVarOneInMat(double* iMat, int n, int IDCol, double* 
                                         VARIANT_BOOL BiasIsOne) {
   const InTable a(iMat, n, IDCol);
   const OptionalVector weights(w, n);
-  M_MeanStDevVarOneInMat(a, n, IDCol, Mean, StDev, Var, iMissing, weights, Unbiased, BiasIsOne);
+  OutDouble mean(Mean), stdev(StDev), variance(Var);
+  M_MeanStDevVarOneInMat(a, n, IDCol, mean, stdev, variance, iMissing, weights, Unbiased, BiasIsOne);
+  store(mean, stdev, variance);
 }
 
 int entries::VB_M_Mean(double* iMat, int n, int p, double* Mean, VARIANT_BOOL* iMissing, double* w) {

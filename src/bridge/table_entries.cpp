@@ -1,4 +1,4 @@
-// Entries of the table family: copies, blocks, rows and columns, labels turned into codes.
+// Entries of table assembly: copies, blocks, rows and columns, positions, labels turned into codes.
 
 #include <algorithm>
 #include <cstdint>
@@ -7,11 +7,14 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "core/range.h"
-#include "tables/blocks.h"
-#include "tables/categories.h"
-#include "tables/copies.h"
-#include "tables/single_columns.h"
+#include "kavoratb1c/tables/blocks.h"
+#include "kavoratb1c/tables/categories.h"
+#include "kavoratb1c/tables/copies.h"
+#include "kavoratb1c/tables/positions.h"
+#include "kavoratb1c/tables/single_columns.h"
+#include "numerics/range.h"
+
+using namespace kav;
 
 using namespace bridge;
 
@@ -49,7 +52,7 @@ void entries::VB_M_DuplicateStr(BSTR* iAMat, int n, int p, BSTR* oMat) {
 void entries::VB_M_CopyBlock(double* iMat, int n, int p, int nStart, int nEnd, int pStart, int pEnd,
                              double* oMat) {
   const InTable a(iMat, n, p, Cells::KeepAll);
-  OutTable block(oMat, Range(n, nStart, nEnd).count(), Range(p, pStart, pEnd).count(), Directly(a));
+  OutTable block(oMat, Range(n, nStart, nEnd).count(), Range(p, pStart, pEnd).count(), InPlaceUnlessRead(a));
   M_CopyBlock(a, n, p, nStart, nEnd, pStart, pEnd, block);
   store(block);
 }
@@ -57,7 +60,7 @@ void entries::VB_M_CopyBlock(double* iMat, int n, int p, int nStart, int nEnd, i
 void entries::VB_M_PasteBlock(double* iMat, int n, int p, double* ioMat, int n2, int p2, int nStart,
                               int pStart) {
   const InTable a(iMat, n, p, Cells::KeepAll);
-  InOutTable table(ioMat, n2, p2, Directly(a));
+  InOutTable table(ioMat, n2, p2, InPlaceUnlessRead(a));
   M_PasteBlock(a, n, p, table, n2, p2, nStart, pStart);
   store(table);
 }
@@ -68,7 +71,7 @@ void entries::VB_M_CopyToBigger(double* iMat, int n, int p, double* oMat, int nO
 
 void entries::VB_M_CopyResize(double* iMat, int n, int p, double* oMat, int n2, int p2) {
   const InTable a(iMat, n, p, Cells::KeepAll);
-  OutTable resized(oMat, n2, p2, Directly(a));
+  OutTable resized(oMat, n2, p2, InPlaceUnlessRead(a));
   M_CopyResize(a, n, p, resized, n2, p2);
   store(resized);
 }
@@ -97,14 +100,14 @@ void entries::VB_M_ExtractMatToMatStr(BSTR* iMat, int n, int p, int nStart, int 
 
 void entries::VB_M_RemoveRow(double* iMat, int n, int p, int iRow, double* oMat) {
   const InTable a(iMat, n, p, Cells::KeepAll);
-  OutTable rest(oMat, n < 1 ? 0 : n - 1, p, Directly(a));
+  OutTable rest(oMat, n < 1 ? 0 : n - 1, p, InPlaceUnlessRead(a));
   M_RemoveRow(a, n, p, iRow, rest);
   store(rest);
 }
 
 void entries::VB_M_RemoveCol(double* iMat, int n, int p, int iCol, double* oMat) {
   const InTable a(iMat, n, p, Cells::KeepAll);
-  OutTable rest(oMat, n, p < 1 ? 0 : p - 1, Directly(a));
+  OutTable rest(oMat, n, p < 1 ? 0 : p - 1, InPlaceUnlessRead(a));
   M_RemoveCol(a, n, p, iCol, rest);
   store(rest);
 }
@@ -130,14 +133,9 @@ int entries::VB_M_RemoveRowsInList(double* iMat, int n, int p, int* iList, int n
 }
 
 void entries::VB_M_MoveRow(double* iMat, int n, int p, int iRow, int iNewPos) {
-  InOutTable a(iMat, n, p, Directly());
+  InOutTable a(iMat, n, p, InPlaceUnlessRead());
   M_MoveRow(a, n, p, iRow, iNewPos);
   store(a);
-}
-
-int entries::VB_M_IsColConstant(double* iAMat, int n, int p) {
-  const InTable a(iAMat, n, p);
-  return M_IsColConstant(a, n, p);
 }
 
 void entries::VB_CopyMatrixColToMatrixCol(double* iMat, int n, int col, double* ioMat, int ColID,
@@ -145,7 +143,7 @@ void entries::VB_CopyMatrixColToMatrixCol(double* iMat, int n, int col, double* 
   if (col < 1 || ColID < 1) return;
   // No other column is looked at.
   const InVector from(columnOf(iMat, n, col), n, Cells::KeepAll);
-  OutTable to(columnOf(ioMat, n, ColID), n, 1, Directly(from));
+  OutTable to(columnOf(ioMat, n, ColID), n, 1, InPlaceUnlessRead(from));
   CopyMatrixColToMatrixCol(from, n, 1, to, 1);
   store(to);
 }
@@ -153,7 +151,7 @@ void entries::VB_CopyMatrixColToMatrixCol(double* iMat, int n, int col, double* 
 void entries::VB_CopyMatrixColToVector(double* iMat, int n, int ColID, double* oVector) {
   if (ColID < 1) return;
   const InVector from(columnOf(iMat, n, ColID), n, Cells::KeepAll);
-  OutTable to(oVector, n, 1, Directly(from));
+  OutTable to(oVector, n, 1, InPlaceUnlessRead(from));
   CopyMatrixColToVector(from, n, 1, to);
   store(to);
 }
@@ -169,15 +167,27 @@ void entries::VB_CopyMatrixColToOneColMatStr(BSTR* iMat, int n, int iCol, BSTR* 
 void entries::VB_CopyMatrixRowToMatrixRow(double* iMat, int n, int p, int Line, double* ioMat, int n2,
                                           int RowID, VARIANT_BOOL) {
   const InTable from(iMat, n, p, Cells::KeepAll);
-  InOutTable to(ioMat, n2, p, Directly(from));
+  InOutTable to(ioMat, n2, p, InPlaceUnlessRead(from));
   CopyMatrixRowToMatrixRow(from, n, p, Line, to, n2, RowID);
   store(to);
 }
 
-void entries::VB_GenerateIndicator(double* iVector, int n, int iStart, int iEnd) {
-  OutTable x(iVector, n, 1, Directly());
-  GenerateIndicator(x, n, iStart, iEnd);
-  store(x);
+void entries::VB_V_GetPositionInMatNNp1o2(int iPos, int n, int* oX, int* oY) {
+  OutInt row(oX), column(oY);
+  V_GetPositionInMatNNp1o2(iPos, n, row, column);
+  store(row, column);
+}
+
+void entries::VB_V_GetPositionInMatNNm1o2(int iPos, int n, int* oX, int* oY) {
+  OutInt row(oX), column(oY);
+  V_GetPositionInMatNNm1o2(iPos, n, row, column);
+  store(row, column);
+}
+
+void entries::VB_V_GetPositionInMatNN(int iPos, int n, int* oX, int* oY) {
+  OutInt row(oX), column(oY);
+  V_GetPositionInMatNN(iPos, n, row, column);
+  store(row, column);
 }
 
 void entries::VB_M_ReplaceCatByCodes(BSTR* iMat, int n, int p, int* NbCat, BSTR* Cat, double* oMat) {

@@ -2,12 +2,14 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "platform/scalar.h"
-#include "stats/goodness_of_fit.h"
-#include "stats/other_means.h"
-#include "stats/quantiles.h"
-#include "stats/vector_moments.h"
-#include "stats/vector_sums.h"
+#include "kavoratb1c/stats/goodness_of_fit.h"
+#include "kavoratb1c/stats/other_means.h"
+#include "kavoratb1c/stats/quantiles.h"
+#include "kavoratb1c/stats/vector_moments.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 using namespace bridge;
 
@@ -82,7 +84,9 @@ void entries::VB_V_GMeanGSD(double* iVector, int n, VARIANT_BOOL* iMissing, doub
                             double* oGSD) {
   const InVector x(iVector, n, Cells::KeepAll);
   const InVector weights(w, n, Cells::KeepAll);
-  V_GMeanGSD(x, n, iMissing, weights, oGMean, oGSD);
+  OutDouble mean(oGMean), deviation(oGSD);
+  V_GMeanGSD(x, n, iMissing, weights, mean, deviation);
+  store(mean, deviation);
 }
 
 double entries::VB_V_MeanAbsDev(double* iVector, int n, double iMean, VARIANT_BOOL* iMissing, double* w) {
@@ -138,14 +142,18 @@ void entries::VB_V_MeanVar(double* iVector, int n, double* Mean, double* Var, VA
                            double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
   const InVector x(iVector, n);
   const InVector weights(w, n);
-  V_MeanVar(x, n, Mean, Var, iMissing, weights, Unbiased, BiasIsOne);
+  OutDouble mean(Mean), variance(Var);
+  V_MeanVar(x, n, mean, variance, iMissing, weights, Unbiased, BiasIsOne);
+  store(mean, variance);
 }
 
 void entries::VB_V_MeanStdev(double* iVector, int n, double* Mean, double* StDev, VARIANT_BOOL* iMissing,
                              double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
   const InVector x(iVector, n);
   const InVector weights(w, n);
-  V_MeanStdev(x, n, Mean, StDev, iMissing, weights, Unbiased, BiasIsOne);
+  OutDouble mean(Mean), deviation(StDev);
+  V_MeanStdev(x, n, mean, deviation, iMissing, weights, Unbiased, BiasIsOne);
+  store(mean, deviation);
 }
 
 void entries::VB_V_MeanVarSkewPKurtP(double* iVector, int n, double* Mean, double* Var, double* SkewP,
@@ -153,7 +161,9 @@ void entries::VB_V_MeanVarSkewPKurtP(double* iVector, int n, double* Mean, doubl
                                      double* w, VARIANT_BOOL Unbiased, VARIANT_BOOL BiasIsOne) {
   const InVector x(iVector, n);
   const InVector weights(w, n);
-  V_MeanVarSkewPKurtP(x, n, Mean, Var, SkewP, KurtP, SkewF, KurtF, iMissing, weights, Unbiased, BiasIsOne);
+  OutDouble mean(Mean), variance(Var), skewP(SkewP), kurtP(KurtP), skew(SkewF), kurt(KurtF);
+  V_MeanVarSkewPKurtP(x, n, mean, variance, skewP, kurtP, skew, kurt, iMissing, weights, Unbiased, BiasIsOne);
+  store(mean, variance, skewP, kurtP, skew, kurt);
 }
 
 double entries::VB_CorrelPearson(double* iVector1, double* iVector2, int n, VARIANT_BOOL* iMissing, double* w,

@@ -2,9 +2,11 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "stats/vector_extremes.h"
-#include "stats/vector_sums.h"
-#include "stats/vector_tests.h"
+#include "kavoratb1c/stats/vector_extremes.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "kavoratb1c/stats/vector_tests.h"
+
+using namespace kav;
 
 using namespace bridge;
 
@@ -20,7 +22,9 @@ double entries::VB_V_Max(double* iVector, int n, VARIANT_BOOL* iMissing) {
 
 void entries::VB_V_MinMax(double* iVector, int n, double* VMin, double* VMax, VARIANT_BOOL* iMissing) {
   const InVector x(iVector, n, Cells::KeepAll);
-  V_MinMax(x, n, VMin, VMax, iMissing);
+  OutDouble min(VMin), max(VMax);
+  V_MinMax(x, n, min, max, iMissing);
+  store(min, max);
 }
 
 int entries::VB_V_MaxInt(int* iVector, int n, VARIANT_BOOL* iMissing) {
@@ -30,12 +34,23 @@ int entries::VB_V_MaxInt(int* iVector, int n, VARIANT_BOOL* iMissing) {
 
 double entries::VB_V_MaxAndMaxPos(double* iVect, int n, int* oMaxPos) {
   const InVector x(iVect, n);
-  return V_MaxAndMaxPos(x, n, oMaxPos);
+  OutInt position(oMaxPos);
+  const double extreme = V_MaxAndMaxPos(x, n, position);
+  store(position);
+  return extreme;
 }
 
 double entries::VB_V_MinAndMinPos(double* iVect, int n, int* oMinPos) {
   const InVector x(iVect, n);
-  return V_MinAndMinPos(x, n, oMinPos);
+  OutInt position(oMinPos);
+  const double extreme = V_MinAndMinPos(x, n, position);
+  store(position);
+  return extreme;
+}
+
+double entries::VB_V_TimeIntervalSize(double* iVect, int n, VARIANT_BOOL iDoSort) {
+  const InVector x(iVect, n);
+  return V_TimeIntervalSize(x, n, iDoSort);
 }
 
 int entries::VB_V_NbMissing(double* iVector, int n) {
@@ -61,20 +76,6 @@ int entries::VB_V_NbTrue(VARIANT_BOOL* iVect, int n) {
 int entries::VB_V_NbTrueFromTo(VARIANT_BOOL* iVect, int n, int nStart, int nEnd) {
   const InFlags x(iVect, n);
   return V_NbTrueFromTo(x, n, nStart, nEnd);
-}
-
-void entries::VB_V_GetMissingDbl(double* iVector, int n, VARIANT_BOOL* iMissing, VARIANT_BOOL* oMissing) {
-  const InVector x(iVector, n);
-  OutFlags missing(oMissing, n, 1);
-  V_GetMissingDbl(x, n, iMissing, missing);
-  store(missing);
-}
-
-void entries::VB_V_GetMissingStr(BSTR* iVectMat, int n, VARIANT_BOOL* iMissing, VARIANT_BOOL* oMissing) {
-  const InText labels(iVectMat, n);
-  OutFlags missing(oMissing, n, 1);
-  V_GetMissingStr(labels, n, iMissing, missing);
-  store(missing);
 }
 
 VARIANT_BOOL entries::VB_V_IsConstant(double* iVect, int n) {

@@ -2,10 +2,20 @@
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"
-#include "stats/vector_transforms.h"
-#include "tables/copies.h"
+#include "kavoratb1c/stats/vector_transforms.h"
+#include "kavoratb1c/tables/copies.h"
+#include "kavoratb1c/tables/fills.h"
+
+using namespace kav;
 
 using namespace bridge;
+
+int entries::VB_InitVectorToFalse(VARIANT_BOOL* oVector, int n) {
+  OutFlags result(oVector, n, 1);
+  const int status = InitVectorToFalse(result, n);
+  store(result);
+  return status;
+}
 
 int entries::VB_V_SetToValue(double* oVector, int n, double iValue) {
   OutTable result(oVector, n, 1);
@@ -190,10 +200,9 @@ void entries::VB_V_ProductHorizV1V2(double* iVect1, int p1, double* iVect2, int 
 }
 
 void entries::VB_V_ProductHorizV1V22(double* ioVect1, int* iop1, double* iVect2, int p2) {
-  int p1 = *required(iop1, 1, 1);
+  InOutInt p1(iop1);
   InOutTable x(ioVect1, p1, 1, Cells::KeepAll);
   const InVector y(iVect2, p2, Cells::KeepAll);
-  V_ProductHorizV1V22(x, &p1, y, p2);
-  store(x);
-  *iop1 = p1;
+  V_ProductHorizV1V22(x, p1, y, p2);
+  store(x, p1);
 }

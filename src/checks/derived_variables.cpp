@@ -1,8 +1,10 @@
-#include "checks/derived_variables.h"
+#include "kavoratb1c/checks/derived_variables.h"
 
-#include "algebra/products.h"
-#include "algebra/result_blocks.h"
-#include "tables/copies.h"
+#include "access/results.h"
+#include "kavoratb1c/algebra/products.h"
+#include "kavoratb1c/tables/copies.h"
+
+using namespace kav;
 
 void ComputeNewVar(const matrix* combinations, int n, int p, const matrix* covariances, matrix*& variances,
                    matrix*& newCovariances) {
@@ -10,7 +12,7 @@ void ComputeNewVar(const matrix* combinations, int n, int p, const matrix* covar
   matrix* made = &product;
   M_ProductABTrA(combinations, n, p, covariances, made);
   const block::Values cells(made, n, n);
-  result::prepared(variances, n, 1, 1, [&](block::Target& target) {
+  results::refilled(variances, n, 1, 1, [&](block::Target& target) {
     for (int i = 0; i < n; ++i) target[i] = cells.column(i)[i];
   });
   M_Duplicate(made, n, n, newCovariances);

@@ -1,20 +1,22 @@
-#include "checks/qualitative.h"
+#include "kavoratb1c/checks/qualitative.h"
 
 #include <algorithm>
 #include <vector>
 
-#include "algebra/result_blocks.h"
+#include "access/results.h"
+#include "access/taking_part.h"
+#include "access/texts.h"
+#include "access/usable.h"
 #include "stats/label_totals.h"
-#include "stats/usable.h"
-#include "stats/weights_or_ones.h"
 #include "tables/category_lists.h"
-#include "tables/texts.h"
+
+using namespace kav;
 
 namespace {
 
 void giveNumbers(matrix*& to, const std::vector<double>& numbers) {
-  result::prepared(to, static_cast<int>(numbers.size()), 1, 1,
-                   [&](block::Target& target) { std::copy(numbers.begin(), numbers.end(), target.data()); });
+  results::refilled(to, static_cast<int>(numbers.size()), 1, 1,
+                    [&](block::Target& target) { std::copy(numbers.begin(), numbers.end(), target.data()); });
 }
 
 void giveTexts(Smatrix*& to, const std::vector<std::u16string_view>& texts) {
@@ -27,7 +29,7 @@ void giveTexts(Smatrix*& to, const std::vector<std::u16string_view>& texts) {
 void M_InfoQuali(const Smatrix* labels, int n, int p, Smatrix*& modes, matrix*& modeFrequencies, int* total,
                  matrix*& counts, Smatrix*& categories, matrix*& frequencies, const short* flags,
                  const matrix* w, short sorted) {
-  const usable::WeightsOrOnes weights(w, n);
+  const usable::RowWeights weights(w, n);
   std::vector<std::u16string_view> modeOf, list;
   std::vector<double> modeWeights, sizes, listWeights;
   for (int j = 0; j < p; ++j) {
@@ -54,7 +56,7 @@ void M_InfoQuali(const Smatrix* labels, int n, int p, Smatrix*& modes, matrix*& 
 void M_InfoQualiValid(const Smatrix* labels, int n, int p, int columns, int total, const int* counts,
                       const Smatrix* categories, matrix*& frequencies, short* problem, const short* flags,
                       const matrix* w) {
-  const usable::WeightsOrOnes weights(w, n);
+  const usable::RowWeights weights(w, n);
   std::vector<double> found(static_cast<std::size_t>(std::max(total, 0)));
   bool unknown = false;
   const auto countColumn = [&](int j, const categories::Categories& known) {

@@ -1,12 +1,14 @@
-#include "checks/structure.h"
+#include "kavoratb1c/checks/structure.h"
 
 #include <algorithm>
 #include <vector>
 
-#include "core/block.h"
-#include "core/results.h"
-#include "platform/scalar.h"
-#include "stats/usable.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "access/usable.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 namespace {
 
@@ -144,3 +146,25 @@ short M_IsIn01(const matrix* a, int n, int p) {
 }
 
 short M_IsLong(const matrix* a, int n, int p) { return forEveryCell(a, n, p, scalar::IsLong); }
+
+short M_IsPositive(const matrix* a, int n, int p, const short* rowFlags, short strictly) {
+  const usable::NotExcludedIfGiven used(rowFlags);
+  const block::Values cells(a, n, p);
+  for (int j = 0; j < p; ++j) {
+    for (int i = 0; i < n; ++i) {
+      const double x = cells.column(j)[i];
+      if (used(i) && !(strictly == kTrue ? x > 0.0 : x >= 0.0)) return kFalse;
+    }
+  }
+  return kTrue;
+}
+
+int M_IsColConstant(const matrix* a, int n, int p) {
+  if (n < 1) return 0;
+  const block::Values cells(a, n, p);
+  for (int j = 0; j < p; ++j) {
+    const double* column = cells.column(j);
+    if (std::all_of(column + 1, column + n, [=](double x) { return x == *column; })) return j + 1;
+  }
+  return 0;
+}

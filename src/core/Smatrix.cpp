@@ -1,9 +1,11 @@
-#include "core/Smatrix.h"
+#include "kavoratb1c/Smatrix.h"
 
 #include <cstdio>
 
 #include "core/addressing.h"
 #include "platform/ole_strings.h"
+
+using namespace kav;
 
 using addressing::isInside;
 using addressing::linearIndex;

@@ -8,7 +8,7 @@
 #include <limits>
 #include <new>
 
-namespace addressing {
+namespace kav::addressing {
 
 /// Cells of a table, without overflow.
 inline constexpr std::int64_t cellCount(std::int64_t rows, std::int64_t columns) {
@@ -67,4 +67,4 @@ inline bool designatesContainer(const void* target) {
   return target != nullptr && reinterpret_cast<std::uintptr_t>(target) != neverSet;
 }
 
-}  // namespace addressing
+}  // namespace kav::addressing

@@ -3,13 +3,16 @@
 
 #include <cstddef>
 
-#include "core/matrix.h"
+#include "core/storage.h"
+#include "kavoratb1c/matrix.h"
+
+namespace kav {
 
 /// Where the arrays of a small matrix lie. Not initialized: what is not used costs nothing. Macros call with
 /// ten rows as often as with a million, and of a small matrix the allocator would be most of the cost.
 class LocalRoom {
  protected:
-  matrix::Room room() { return {memory_, sizeof memory_}; }
+  storage::Room room() { return {memory_, sizeof memory_}; }
 
  private:
   // About a hundred rows of one column.
@@ -22,10 +25,9 @@ class LocalRoom {
 /// as an argument.
 class LocalMatrix : private LocalRoom, public matrix {
  public:
-  LocalMatrix(int rows, int columns, const double* a, bool keepAll)
-      : matrix(room(), rows, columns, a, keepAll) {}
-  LocalMatrix(int rows, int columns, const int* a) : matrix(room(), rows, columns, a) {}
-  LocalMatrix(int rows, int columns, const short* a) : matrix(room(), rows, columns, a) {}
+  LocalMatrix(int rows, int columns, const double* a, bool keepAll);
+  LocalMatrix(int rows, int columns, const int* a);
+  LocalMatrix(int rows, int columns, const short* a);
   LocalMatrix(const LocalMatrix&) = delete;
   LocalMatrix& operator=(const LocalMatrix&) = delete;
 };
@@ -37,13 +39,13 @@ struct InPlace {};
 /// large and aligned, and no cell of it has to be flagged, the array itself.
 class LocalTarget : private LocalRoom, public matrix {
  public:
-  LocalTarget(int rows, int columns) : matrix(room(), rows, columns, 0.0) {}
-  LocalTarget(int rows, int columns, const double* a, bool keepAll)
-      : matrix(room(), rows, columns, a, keepAll, Own()) {}
-  LocalTarget(int rows, int columns, const int* a, bool) : matrix(room(), rows, columns, a) {}
-  LocalTarget(int rows, int columns, const short* a, bool) : matrix(room(), rows, columns, a) {}
-  LocalTarget(int rows, int columns, double* a, InPlace, bool keepAll = true)
-      : matrix(room(), rows, columns, a, keepAll) {}
+  LocalTarget(int rows, int columns);
+  LocalTarget(int rows, int columns, const double* a, bool keepAll);
+  LocalTarget(int rows, int columns, const int* a, bool keepAll);
+  LocalTarget(int rows, int columns, const short* a, bool keepAll);
+  LocalTarget(int rows, int columns, double* a, InPlace, bool keepAll = true);
   LocalTarget(const LocalTarget&) = delete;
   LocalTarget& operator=(const LocalTarget&) = delete;
 };
+
+}  // namespace kav

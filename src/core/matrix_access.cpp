@@ -1,7 +1,9 @@
 // One cell at a time: the element rules, written down once for the six ways to address a cell.
 
 #include "core/addressing.h"
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
+
+using namespace kav;
 
 using addressing::isInside;
 using addressing::linearIndex;
@@ -19,7 +21,7 @@ double write(matrix& m, std::int64_t k, double x) {
 }
 
 bool readMissing(const matrix& m, std::int64_t k) {
-  return isInside(m, k) && (m.missing[k] || isMarker(m.values[k]));
+  return isInside(m, k) && isMissing(m.values[k], m.missing[k]);
 }
 
 void writeMissing(matrix& m, std::int64_t k, bool f) {

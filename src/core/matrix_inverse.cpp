@@ -5,13 +5,15 @@
 #include <iterator>
 #include <vector>
 
-#include "core/block.h"
-#include "core/elements.h"
-#include "core/lu_panels.h"
-#include "core/matrix.h"
-#include "core/scratch.h"
-#include "core/thresholds.h"
+#include "core/addressing.h"
+#include "kavoratb1c/matrix.h"
 #include "kernels/kernels.h"
+#include "numerics/lu_panels.h"
+#include "numerics/plain_elements.h"
+#include "numerics/scratch.h"
+#include "numerics/thresholds.h"
+
+using namespace kav;
 
 namespace {
 
@@ -61,10 +63,10 @@ class LuDecomposition {
  private:
   /// A flagged cell counts as 0.0, one outside the container reads -1.0.
   void copyCells(const matrix& a) {
-    const std::int64_t inside = std::min<std::int64_t>(addressing::cellCount(a), std::ssize(cells_));
-    for (std::int64_t k = 0; k < inside; ++k) {
-      cells_[static_cast<std::size_t>(k)] = a.missing[k] ? 0.0 : a.values[k];
-    }
+    const auto inside =
+        static_cast<std::ptrdiff_t>(std::min<std::int64_t>(addressing::cellCount(a), std::ssize(cells_)));
+    std::transform(a.values, a.values + inside, a.missing, cells_.begin(),
+                   [](double x, bool flagged) { return flagged ? 0.0 : x; });
     std::fill(cells_.begin() + inside, cells_.end(), kOutside);
   }
 

@@ -2,8 +2,10 @@
 
 #include <cstdio>
 
-#include "core/matrix.h"
 #include "core/storage.h"
+#include "kavoratb1c/matrix.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,10 +1,11 @@
 // Products of a table with others, member by member.
 
 #include "core/addressing.h"
-#include "core/block.h"
-#include "core/matrix.h"
-#include "core/moments.h"
 #include "core/storage.h"
+#include "kavoratb1c/matrix.h"
+#include "numerics/moments.h"
+
+using namespace kav;
 
 namespace {
 

@@ -3,16 +3,17 @@
 #include <cmath>
 
 #include "core/addressing.h"
-#include "core/block.h"
-#include "core/matrix.h"
 #include "core/storage.h"
+#include "kavoratb1c/matrix.h"
+
+using namespace kav;
 
 namespace {
 
 /// Whether a cell of a table leaves its term out of a denominator. Cells outside do not.
 bool isAbsent(const matrix* m, std::int64_t k) {
   if (m == nullptr || !addressing::isInside(*m, k)) return false;
-  return m->missing[k] || std::isnan(m->values[k]) || isMarker(m->values[k]);
+  return std::isnan(m->values[k]) || isMissing(m->values[k], m->missing[k]);
 }
 
 template <class Weight>

@@ -3,9 +3,11 @@
 #include <cmath>
 
 #include "core/addressing.h"
-#include "core/matrix.h"
-#include "core/moments.h"
 #include "core/storage.h"
+#include "kavoratb1c/matrix.h"
+#include "numerics/moments.h"
+
+using namespace kav;
 
 namespace {
 
@@ -15,7 +17,7 @@ moments::Moments momentsOf(const matrix& m, int j) {
   const std::int64_t begin = addressing::linearIndex(0, j, m.nX);
   for (int i = 0; i < m.nX; ++i) {
     const std::int64_t k = begin + i;
-    if (!m.missing[k] && !isMarker(m.values[k])) result.add(m.values[k], storage::rowWeight(m, i));
+    if (!isMissing(m.values[k], m.missing[k])) result.add(m.values[k], storage::rowWeight(m, i));
   }
   return result;
 }

@@ -4,9 +4,11 @@
 #include <vector>
 
 #include "core/addressing.h"
-#include "core/matrix.h"
 #include "core/storage.h"
-#include "platform/scalar.h"
+#include "kavoratb1c/matrix.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 namespace {
 

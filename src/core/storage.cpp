@@ -4,7 +4,7 @@
 #include <cstring>
 #include <limits>
 
-namespace storage {
+namespace kav::storage {
 
 namespace {
 
@@ -41,9 +41,7 @@ T* take(char*& at, std::int64_t count) {
   return array;
 }
 
-}  // namespace
-
-void allocate(matrix& m, matrix::Room room, double* values) {
+void allocate(matrix& m, Room room, double* values) {
   const bool own = values == nullptr;
   const std::int64_t cells = addressing::cellCount(m);
   const int columns = std::max(m.pX, 0);
@@ -75,8 +73,38 @@ void allocate(matrix& m, matrix::Room room, double* values) {
   if (weightedRows == 0) m.weights = nullptr;
 }
 
+/// What all containers without rows and columns share: they have nothing to write to.
+const SizesField kEmpty = {{0, 0, true, true}};
+
+void shareEmpty(matrix& m) {
+  auto* end = reinterpret_cast<char*>(const_cast<SizesField*>(&kEmpty)) + kSizesField;
+  m.counts = reinterpret_cast<int*>(end);
+  m.missing = reinterpret_cast<bool*>(end);
+  m.weights = nullptr;
+  m.values = m.normu = m.norsigma = m.descmu = m.descsigma = m.weightcorr = reinterpret_cast<double*>(end);
+}
+
+}  // namespace
+
+void build(matrix& m, Room room, int rows, int columns, double* values) {
+  m.nX = rows;
+  m.pX = columns;
+  m.normalized = m.descValid = 0;
+  m.descMode = 0;
+  m.sumOfWeights = std::max(rows, 0);
+  if (rows < 1 && columns < 1 && values == nullptr) {
+    shareEmpty(m);
+    return;
+  }
+  allocate(m, room, values);
+  const Sizes& built = builtSizes(m);
+  std::fill_n(m.weights, built.rows, 1.0);
+  std::fill_n(m.counts, built.columns, std::max(rows, 0));
+  std::fill_n(m.weightcorr, built.columns, std::max(rows, 0) - 1.0);
+}
+
 void release(matrix& m) noexcept {
   if (!builtSizes(m).borrowed) std::free(reinterpret_cast<char*>(m.counts) - kSizesField);
 }
 
-}  // namespace storage
+}  // namespace kav::storage

@@ -13,9 +13,9 @@
 #include <new>
 
 #include "core/addressing.h"
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
 
-namespace storage {
+namespace kav::storage {
 
 /// What a container was built with; never below 0.
 struct Sizes {
@@ -32,13 +32,26 @@ struct Sizes {
 inline constexpr std::size_t kSizesField = 16;
 static_assert(sizeof(Sizes) <= kSizesField && kSizesField % alignof(std::max_align_t) == 0);
 
-/// Points m's arrays into a block for Sizes of m.nX and m.pX: into room where that is large enough, else into
-/// a new one. Flags are clear, column arrays 0; values and weights are not set. Throws std::bad_alloc and
-/// leaves m as it was.
+/// Bytes of such a field.
+struct alignas(kSizesField) SizesField {
+  Sizes sizes;
+};
+
+/// Memory for the arrays of a small container, aligned as the allocator aligns; outlives the container.
+struct Room {
+  void* memory;
+  std::size_t bytes;
+};
+
+inline constexpr Room kNoRoom{nullptr, 0};
+
+/// Makes m, which has no arrays yet or none of its own, a container of rows x columns without missing cells:
+/// its arrays lie in room where that is large enough, else in a new block. The values are not set. Throws
+/// std::bad_alloc.
 ///
 /// @param values  null, or m's values: then they stay where they are, and m, which must not outlive
 ///                them, has row weights only when it has several columns; those of a vector are null
-void allocate(matrix& m, matrix::Room room, double* values);
+void build(matrix& m, Room room, int rows, int columns, double* values = nullptr);
 
 void release(matrix& m) noexcept;
 
@@ -56,4 +69,4 @@ inline double rowWeight(const matrix& m, int i) {
   return m.weights != nullptr && i >= 0 && i < weightedRows(m) ? m.weights[i] : 1.0;
 }
 
-}  // namespace storage
+}  // namespace kav::storage

@@ -6,11 +6,11 @@
 #include <utility>
 #include <vector>
 
-#include "core/thresholds.h"
-#include "decomp/singular_values.h"
-#include "platform/scalar.h"
+#include "kavoratb1c/decomp/column_kernels.h"
+#include "numerics/scalar.h"
+#include "numerics/thresholds.h"
 
-namespace bidiagonal {
+namespace kav::bidiagonal {
 
 /// What a singular value decomposition computes, from its job code; a code below 0 is taken as 0.
 struct Job {
@@ -30,7 +30,7 @@ struct Job {
   int rowSteps() const { return std::max(0, std::min(p - 2, n)); }
 
   /// Of the bidiagonal table.
-  int order() const { return std::min(p, n + 1); }
+  int order() const { return n < p ? n + 1 : p; }
 };
 
 /// A bidiagonal table of job.order() rows, 1-based: the diagonal s, above it e.
@@ -185,4 +185,4 @@ class QrSteps {
   Vectors& vectors_;
 };
 
-}  // namespace bidiagonal
+}  // namespace kav::bidiagonal

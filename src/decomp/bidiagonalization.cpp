@@ -1,12 +1,13 @@
+#include "decomp/bidiagonalization.h"
+
 #include <algorithm>
 
 #include "core/addressing.h"
-#include "decomp/householder.h"
-#include "decomp/norm.h"
 #include "decomp/reflectors.h"
 #include "kernels/kernels.h"
+#include "numerics/norm.h"
 
-namespace householder {
+namespace kav::householder {
 
 namespace {
 
@@ -41,9 +42,9 @@ Bidiagonalization::Bidiagonalization(const bidiagonal::Job& job, const elements:
     reflectRow(l);
   }
   if (!factors_.empty()) {
-    kernels::best().updateColumns({x_.column(steps) + steps, x_.stride(), job.n - steps, job.p - steps,
-                                   factors_.data() + steps, work_.data() + steps, nullptr, nullptr, nullptr,
-                                   nullptr});
+    kernels::best().updateColumns({x_.column(steps) + steps, x_.leadingDimension(), job.n - steps,
+                                   job.p - steps, factors_.data() + steps, work_.data() + steps, nullptr,
+                                   nullptr, nullptr, nullptr});
   }
   const int m = job.order(), columns = job.columnSteps(), rows = job.rowSteps();
   if (columns < job.p) s[sizeOf(columns)] = x_(columns, columns);
@@ -66,7 +67,7 @@ void Bidiagonalization::reflectColumn(int l) {
   }
   if (columnReflects_ && others > 0) {
     const double* next = x_.column(l + 1) + l;
-    kernels::best().columnSums({next, x_.stride(), length, others,
+    kernels::best().columnSums({next, x_.leadingDimension(), length, others,
                                 pending ? factors_.data() + l + 1 : nullptr, work_.data() + l, column,
                                 times_.data() + l + 1});
     for (int j = l + 1; j < job_.p; ++j) times_[sizeOf(j)] = -times_[sizeOf(j)] / column[0];
@@ -90,7 +91,7 @@ void Bidiagonalization::reflectRow(int l) {
   std::fill(nextWork_.begin(), nextWork_.end(), 0.0);
   const bool pending = !factors_.empty();
   if (below > 0 && others > 0) {
-    kernels::best().updateColumns({x_.column(l + 1) + l + 1, x_.stride(), below, others,
+    kernels::best().updateColumns({x_.column(l + 1) + l + 1, x_.leadingDimension(), below, others,
                                    pending ? factors_.data() + l + 1 : nullptr, work_.data() + l + 1,
                                    columnReflects_ ? times_.data() + l + 1 : nullptr, x_.column(l) + l + 1,
                                    reflected ? e.data() + l + 1 : nullptr, nextWork_.data() + l + 1});
@@ -130,4 +131,4 @@ void Bidiagonalization::generateRight(const elements::Plain& v) const {
   reflectors::accumulate(order, startsAfter, units, job_.p, v);
 }
 
-}  // namespace householder
+}  // namespace kav::householder

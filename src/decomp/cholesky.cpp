@@ -1,13 +1,17 @@
+#include "kavoratb1c/decomp/cholesky.h"
+
 #include <algorithm>
 #include <vector>
 
-#include "core/block.h"
-#include "core/elements.h"
-#include "core/scratch.h"
+#include "access/block.h"
+#include "access/checked_elements.h"
 #include "decomp/kept.h"
-#include "decomp/triangular.h"
 #include "kernels/kernels.h"
-#include "platform/scalar.h"
+#include "numerics/plain_elements.h"
+#include "numerics/scalar.h"
+#include "numerics/scratch.h"
+
+using namespace kav;
 
 namespace {
 

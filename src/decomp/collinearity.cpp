@@ -1,13 +1,15 @@
-#include "decomp/collinearity.h"
+#include "kavoratb1c/decomp/collinearity.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <vector>
 
-#include "core/block.h"
-#include "core/thresholds.h"
+#include "access/block.h"
 #include "decomp/packed.h"
+#include "numerics/thresholds.h"
+
+using namespace kav;
 
 namespace {
 
@@ -111,19 +113,6 @@ class ToleranceCheck {
 };
 
 }  // namespace
-
-double packed::toleranceWith(const double* s, int p, int k, double tolerance) {
-  const double d = packed::at(s, k, k);
-  if (!(d > 0.0) || std::fabs(d) < tolerance) return d;
-  double least = d;
-  for (int j = 0; j < p; ++j) {
-    const double own = packed::at(s, j, j);
-    if (j == k || !(own < 0.0)) continue;
-    const double shared = packed::at(s, j, k);
-    least = std::min(least, 1.0 / (std::fabs(own) + shared * shared / d));
-  }
-  return least;
-}
 
 double OLSCheckIfIn(const matrix* swept, int p, int k, double tolerance) {
   if (k < 1 || k > p) return kOutside;

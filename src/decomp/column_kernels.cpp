@@ -1,11 +1,14 @@
 // Sums and updates of segments of columns, element by element.
 
+#include "kavoratb1c/decomp/column_kernels.h"
+
 #include <cmath>
 
 #include "core/addressing.h"
-#include "decomp/norm.h"
-#include "decomp/singular_values.h"
-#include "platform/scalar.h"
+#include "numerics/norm.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,16 +1,20 @@
-#include "decomp/eigen.h"
+
+#include "kavoratb1c/decomp/eigen.h"
 
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
-#include "core/block.h"
-#include "core/elements.h"
-#include "decomp/householder.h"
+#include "access/block.h"
+#include "access/checked_elements.h"
 #include "decomp/rotations.h"
 #include "decomp/tridiagonal.h"
-#include "sort/sorts.h"
-#include "stats/vector_sums.h"
+#include "decomp/tridiagonalization.h"
+#include "kavoratb1c/sort/sorts.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "numerics/plain_elements.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,16 +1,20 @@
 // Gauss-Jordan elimination and the sweep operator.
 
+#include "kavoratb1c/decomp/elimination.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <vector>
 
-#include "core/block.h"
-#include "core/elements.h"
-#include "core/scratch.h"
-#include "decomp/elimination.h"
+#include "access/block.h"
+#include "access/checked_elements.h"
 #include "decomp/packed.h"
 #include "kernels/kernels.h"
+#include "numerics/plain_elements.h"
+#include "numerics/scratch.h"
+
+using namespace kav;
 
 namespace {
 
@@ -182,8 +186,8 @@ class ByColumns {
   /// Row c times the reciprocal, then its multiples off all other rows.
   void takeOff(const elements::Plain& cells, int columns, int c, double reciprocal) {
     for (int j = 0; j < columns; ++j) row_[static_cast<std::size_t>(j)] = cells(c, j) * reciprocal;
-    kernels::best().eliminate({cells.column(0), cells.stride(), n_, columns, factors_.data(), row_.data(),
-                               counts_.data(), largest_.data()});
+    kernels::best().eliminate({cells.column(0), cells.leadingDimension(), n_, columns, factors_.data(),
+                               row_.data(), counts_.data(), largest_.data()});
     for (int j = 0; j < columns; ++j) cells.set(c, j, row_[static_cast<std::size_t>(j)]);
   }
 
@@ -238,20 +242,6 @@ int M_Gauss(matrix* a, int n, int m, matrix* b) {
     }
   }
   return ByElement(a, n, sides, b).solve();
-}
-
-void packed::sweep(double* s, int q, int k) {
-  double& pivot = at(s, k, k);
-  const double d = pivot, size = std::fabs(d), sign = d < 0.0 ? -1.0 : 1.0;
-  Scratch<double> column(static_cast<std::size_t>(q)), divided(column.size());
-  for (int i = 0; i < q; ++i) {
-    double& cell = at(s, i, k);
-    column[i] = cell;
-    if (i != k) cell /= size;
-    divided[i] = cell * sign;
-  }
-  kernels::best().sweep({s, q, k, column.data(), divided.data(), kZero});
-  pivot = -1.0 / d;
 }
 
 int M_Sweep(matrix* s, int q, int k) {

@@ -1,15 +1,18 @@
 // What factor analyses make of eigenvalues and coordinates.
 
+#include "kavoratb1c/decomp/factors.h"
+
 #include <algorithm>
 #include <vector>
 
-#include "algebra/elementwise.h"
-#include "core/block.h"
-#include "core/results.h"
-#include "core/thresholds.h"
-#include "decomp/eigen.h"
-#include "platform/scalar.h"
-#include "stats/vector_sums.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "kavoratb1c/algebra/elementwise.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "numerics/scalar.h"
+#include "numerics/thresholds.h"
+
+using namespace kav;
 
 namespace {
 
@@ -66,7 +69,7 @@ int FilterEigen(matrix*& values, int n, short drop, double minimum, double cumul
 }
 
 void cComputeCosines(const matrix* f, int n, int q, matrix*& cosines) {
-  if (cosines == nullptr) results::prepare(cosines, n, q);
+  if (cosines == nullptr) results::keep(cosines, n, q);
   if (n < 1 || q < 1) return;
   const block::Values cells(f, n, q);
   matrix squares(n, 1, 0.0);

@@ -1,11 +1,14 @@
+#include "kavoratb1c/decomp/inverse_triangular.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
 
-#include "core/block.h"
-#include "core/elements.h"
-#include "core/results.h"
-#include "decomp/triangular.h"
+#include "access/block.h"
+#include "access/checked_elements.h"
+#include "access/results.h"
+
+using namespace kav;
 
 namespace {
 
@@ -46,7 +49,7 @@ void invertUpper(Triangle t, int n, double* cells) {
 }  // namespace
 
 int M_InverseTriang(const matrix* t, int n, short lower, matrix*& inverse, double tolerance) {
-  if (inverse == nullptr) results::prepare(inverse, n, n);
+  if (inverse == nullptr) results::keep(inverse, n, n);
   if (n < 1) return 0;
   const block::Values cells(t, n, n);
   for (int i = 0; i < n; ++i) {

@@ -1,15 +1,18 @@
 // Inverses by singular values, and of the variables that are not excluded.
 
+#include "kavoratb1c/decomp/inverses.h"
+
 #include <algorithm>
 #include <vector>
 
-#include "algebra/products.h"
-#include "core/block.h"
-#include "core/thresholds.h"
-#include "decomp/elimination.h"
+#include "access/block.h"
 #include "decomp/kept.h"
-#include "decomp/singular_values.h"
-#include "decomp/triangular.h"
+#include "kavoratb1c/algebra/products.h"
+#include "kavoratb1c/decomp/inverse_triangular.h"
+#include "kavoratb1c/decomp/singular_values.h"
+#include "numerics/thresholds.h"
+
+using namespace kav;
 
 namespace {
 

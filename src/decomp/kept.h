@@ -3,10 +3,10 @@
 
 #include <vector>
 
-#include "algebra/result_blocks.h"
-#include "core/block.h"
+#include "access/block.h"
+#include "access/results.h"
 
-namespace kept {
+namespace kav::kept {
 
 /// 0-based, in ascending order: those whose cell is 0.0.
 inline std::vector<int> variables(const matrix* excluded, int n) {
@@ -37,4 +37,4 @@ inline void scatter(const matrix& small, const std::vector<int>& kept, int n, ma
   }
 }
 
-}  // namespace kept
+}  // namespace kav::kept

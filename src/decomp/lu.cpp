@@ -1,14 +1,18 @@
 // LU factors in place, and determinants from them.
 
+#include "kavoratb1c/decomp/lu.h"
+
 #include <algorithm>
 #include <vector>
 
-#include "core/block.h"
-#include "core/elements.h"
-#include "core/lu_panels.h"
+#include "access/block.h"
+#include "access/checked_elements.h"
 #include "decomp/kept.h"
-#include "decomp/triangular.h"
-#include "platform/scalar.h"
+#include "numerics/lu_panels.h"
+#include "numerics/plain_elements.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 namespace {
 

@@ -10,9 +10,9 @@
 #include <new>
 
 #include "core/addressing.h"
-#include "core/thresholds.h"
+#include "numerics/thresholds.h"
 
-namespace packed {
+namespace kav::packed {
 
 /// Where cell (i, j) is, 0-based, either triangle.
 inline std::int64_t position(int i, int j) {
@@ -57,4 +57,4 @@ void sweepByElement(const Cells& s, int q, int k) {
   }
 }
 
-}  // namespace packed
+}  // namespace kav::packed

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 
-#include "core/scratch.h"
 #include "kernels/kernels.h"
+#include "numerics/plain_elements.h"
+#include "numerics/scratch.h"
 
-namespace reflectors {
+namespace kav::reflectors {
 
 namespace {
 
@@ -94,4 +95,4 @@ void accumulate(const std::vector<Reflector>& order, const std::vector<int>& sta
   }
 }
 
-}  // namespace reflectors
+}  // namespace kav::reflectors

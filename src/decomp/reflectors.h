@@ -4,9 +4,9 @@
 #include <cstddef>
 #include <vector>
 
-#include "core/elements.h"
+#include "numerics/plain_elements.h"
 
-namespace reflectors {
+namespace kav::reflectors {
 
 /// One reflection: rows first .. end-1 of a column x become x + (sum of v[k] x[k] / divisor) along, terms in
 /// ascending order. Both vectors begin with row `first`.
@@ -27,4 +27,4 @@ struct Reflector {
 void accumulate(const std::vector<Reflector>& order, const std::vector<int>& startsAfter,
                 const std::vector<const double*>& start, int rows, const elements::Plain& target);
 
-}  // namespace reflectors
+}  // namespace kav::reflectors

@@ -3,9 +3,10 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/scratch.h"
+#include "numerics/plain_elements.h"
+#include "numerics/scratch.h"
 
-namespace rotations {
+namespace kav::rotations {
 
 Log::Log(const elements::Plain& cells, int rows, int columns)
     : cells_(cells),
@@ -69,4 +70,4 @@ void Log::finish() {
   }
 }
 
-}  // namespace rotations
+}  // namespace kav::rotations

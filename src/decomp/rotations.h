@@ -6,10 +6,10 @@
 #include <numeric>
 #include <vector>
 
-#include "core/elements.h"
 #include "kernels/kernels.h"
+#include "numerics/plain_elements.h"
 
-namespace rotations {
+namespace kav::rotations {
 
 class Log {
  public:
@@ -54,4 +54,4 @@ class Log {
   std::vector<char> negative_;  ///< of each place in the result
 };
 
-}  // namespace rotations
+}  // namespace kav::rotations

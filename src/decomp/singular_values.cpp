@@ -1,15 +1,19 @@
-#include "decomp/singular_values.h"
+
+#include "kavoratb1c/decomp/singular_values.h"
 
 #include <algorithm>
 #include <limits>
 #include <new>
 #include <vector>
 
-#include "core/block.h"
-#include "core/elements.h"
+#include "access/block.h"
 #include "decomp/bidiagonal.h"
-#include "decomp/householder.h"
+#include "decomp/bidiagonalization.h"
 #include "decomp/rotations.h"
+#include "kavoratb1c/decomp/column_kernels.h"
+#include "numerics/plain_elements.h"
+
+using namespace kav;
 
 using bidiagonal::Job;
 

@@ -3,9 +3,9 @@
 
 #include <cmath>
 
-#include "platform/scalar.h"
+#include "numerics/scalar.h"
 
-namespace tridiagonal {
+namespace kav::tridiagonal {
 
 /// sqrt(a^2 + b^2) without overflow of a square.
 inline double hypotenuse(double a, double b) {
@@ -76,4 +76,4 @@ int qlSteps(int n, double* d, double* e, Vectors& vectors) {
   return 0;
 }
 
-}  // namespace tridiagonal
+}  // namespace kav::tridiagonal

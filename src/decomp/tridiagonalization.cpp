@@ -1,12 +1,15 @@
+#include "decomp/tridiagonalization.h"
+
 #include <algorithm>
 #include <cmath>
 
 #include "core/addressing.h"
-#include "decomp/householder.h"
 #include "decomp/reflectors.h"
+#include "decomp/sizes.h"
 #include "kernels/kernels.h"
+#include "numerics/scalar.h"
 
-namespace householder {
+namespace kav::householder {
 
 Tridiagonalization::Tridiagonalization(const elements::Plain& a, int n)
     : d(sizeOf(n)),
@@ -64,8 +67,8 @@ void Tridiagonalization::reduceRow(int i) {
 
 /// Takes off what is pending, if anything, and adds the product with w.
 void Tridiagonalization::updateLeading(int size, const double* w, double* product) {
-  kernels::best().rankTwo(
-      {a_.column(0), a_.stride(), size, pending_, pending_ == nullptr ? nullptr : share_.data(), w, product});
+  kernels::best().rankTwo({a_.column(0), a_.leadingDimension(), size, pending_,
+                           pending_ == nullptr ? nullptr : share_.data(), w, product});
 }
 
 void Tridiagonalization::accumulate(const std::vector<double>& squares) {
@@ -85,4 +88,4 @@ void Tridiagonalization::accumulate(const std::vector<double>& squares) {
   reflectors::accumulate(order, startsAfter, std::vector<const double*>(sizeOf(n_), nullptr), n_, a_);
 }
 
-}  // namespace householder
+}  // namespace kav::householder

@@ -3,7 +3,7 @@
 #include "kernels/kernels.h"
 #include "kernels/tiles.h"
 
-namespace kernels {
+namespace kav::kernels {
 
 namespace sse2 {
 extern const Table table;
@@ -55,4 +55,4 @@ const Table* const* supported(int* count) {
 
 const Table& best() { return kBest; }
 
-}  // namespace kernels
+}  // namespace kav::kernels

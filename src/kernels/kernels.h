@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace kernels {
+namespace kav::kernels {
 
 /// A table as a kernel reads it: cell (i, k) is at cells[i * row + k * column].
 struct View {
@@ -229,4 +229,4 @@ const Table* const* supported(int* count);
 /// The best of them, chosen when the library is loaded.
 const Table& best();
 
-}  // namespace kernels
+}  // namespace kav::kernels

@@ -5,7 +5,7 @@
 
 #include "kernels/kernels.h"
 
-namespace kernels {
+namespace kav::kernels {
 
 /// A block of a that stays in the second-level cache: rows x depth.
 inline constexpr std::ptrdiff_t kBlockRows = 192;
@@ -27,4 +27,4 @@ static inline bool isSmall(const Product& p) {
   return multiplications <= kFewMultiplications || (p.columns == 1 && p.a.row == 1);
 }
 
-}  // namespace kernels
+}  // namespace kav::kernels

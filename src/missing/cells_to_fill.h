@@ -4,18 +4,13 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "core/Smatrix.h"
 #include "core/addressing.h"
-#include "core/matrix.h"
-#include "stats/usable.h"
+#include "kavoratb1c/Smatrix.h"
+#include "kavoratb1c/matrix.h"
 
-namespace missing {
+namespace kav::missing {
 
-inline bool isMissing(const matrix& m, std::int64_t k) {
-  static_assert(sizeof(bool) == sizeof(char));
-  const usable::Present present(m.values, reinterpret_cast<const char*>(m.missing));
-  return !present(static_cast<std::ptrdiff_t>(k));
-}
+inline bool isMissing(const matrix& m, std::int64_t k) { return kav::isMissing(m.values[k], m.missing[k]); }
 inline bool isMissing(const Smatrix& m, std::int64_t k) { return m.cells[k].empty(); }
 
 /// visit(row, linear index) for the missing cells among the first n of a column, those inside the container.
@@ -41,4 +36,4 @@ void fill(Smatrix& m, std::int64_t k, const Text& text) {
   m.cells[k] = text;
 }
 
-}  // namespace missing
+}  // namespace kav::missing

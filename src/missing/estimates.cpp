@@ -1,16 +1,18 @@
-#include "missing/estimates.h"
+#include "kavoratb1c/missing/estimates.h"
 
 #include <algorithm>
 #include <cmath>
 #include <string>
 #include <vector>
 
+#include "access/taking_part.h"
+#include "access/texts.h"
+#include "access/usable.h"
 #include "missing/cells_to_fill.h"
 #include "stats/label_totals.h"
-#include "stats/usable.h"
 #include "stats/weighted_mean.h"
-#include "stats/weights_or_ones.h"
-#include "tables/texts.h"
+
+using namespace kav;
 
 namespace {
 
@@ -39,14 +41,14 @@ void EstimateRowsWithMissingMeanPred(const matrix* learned, int m, matrix* a, in
                                      const short* flags, const matrix* w) {
   const block::Values values(learned, m, p);
   const block::Flags flagged(learned, m, p);
-  const usable::WeightsOrOnes weights(w, m);
-  const usable::WeightedIfGiven counts(flags, weights);
+  const usable::RowWeights weights(w, m);
+  const usable::TakesPart takesPart{usable::NotExcludedIfGiven(flags), weights};
   fillColumns(
       a, n, p,
       [&](int j) {
         const usable::Present present(values.column(j), flagged.column(j));
         return weightedMean(
-            m, [&](int i) { return counts(i) && present(i); }, [&](int i) { return present.x[i]; },
+            m, [&](int i) { return takesPart(i) && present(i); }, [&](int i) { return present.x[i]; },
             [&](int i) { return weights[i]; });
       },
       [](double mean) { return std::isfinite(mean); });
@@ -58,13 +60,13 @@ void EstimateRowsWithMissingMode(Smatrix* a, int n, int p, const short* flags, c
 
 void EstimateRowsWithMissingModePred(const Smatrix* learned, int m, Smatrix* a, int n, int p,
                                      const short* flags, const matrix* w) {
-  const usable::WeightsOrOnes weights(w, m);
-  const usable::WeightedIfGiven counts(flags, weights);
+  const usable::RowWeights weights(w, m);
+  const usable::TakesPart takesPart{usable::NotExcludedIfGiven(flags), weights};
   fillColumns(
       a, n, p,
       [&](int j) {
         LabelTotals totals;
-        usable::forEach(m, counts, [&](int i) { totals.add(texts::cell(learned, i, j), weights[i]); });
+        usable::forEach(m, takesPart, [&](int i) { totals.add(texts::cell(learned, i, j), weights[i]); });
         return std::u16string(totals.mode().text);
       },
       [](const std::u16string& mode) { return !mode.empty(); });

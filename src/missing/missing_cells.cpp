@@ -1,12 +1,14 @@
-#include "missing/missing_cells.h"
+#include "kavoratb1c/missing/missing_cells.h"
 
 #include <vector>
 
-#include "algebra/result_blocks.h"
-#include "core/block.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "access/texts.h"
+#include "access/usable.h"
 #include "missing/cells_to_fill.h"
-#include "stats/usable.h"
-#include "tables/texts.h"
+
+using namespace kav;
 
 namespace {
 
@@ -67,6 +69,15 @@ struct Remaining {
   std::vector<int> rows;
 };
 
+template <class IsMissing>
+void flagMissingOrExcluded(int n, const short* exclude, matrix*& out, IsMissing isMissing) {
+  results::keep(out, n, 1);
+  block::Target flags(out, n);
+  const usable::NotExcludedIfGiven used(exclude);
+  for (int i = 0; i < n; ++i) flags[i] = asFlag(!used(i) || isMissing(i));
+  flags.store();
+}
+
 }  // namespace
 
 void M_NbMissing(const matrix* a, int n, int p, int* counts) {
@@ -114,8 +125,8 @@ void SummarizeAllMissing(int n, const short* first, const short* second, int* co
 void RemoveRowsWithMissing(const matrix* a, int n, int p, int removed, const short* flags, matrix*& out) {
   const Remaining rows(n, p, removed, flags);
   const block::Values cells(a, n, p);
-  result::prepared(out, rows.count, p, 1, [&](block::Target& target) {
-    result::fill(target, rows.count, p, [&](int j) {
+  results::refilled(out, rows.count, p, 1, [&](block::Target& target) {
+    results::fill(target, rows.count, p, [&](int j) {
       return [&rows, column = cells.column(j)](int i) { return rows.has(i) ? column[rows[i]] : kMissing; };
     });
   });
@@ -135,7 +146,7 @@ void M_ReplaceMissingByStr(Smatrix* a, int n, int p, const std::u16string& value
 }
 
 void M_SetWeightsToZeroForMissing(const matrix* a, int n, int p, matrix* w, int pW) {
-  if (!result::hasCells(n, pW)) return;
+  if (!results::haveCells(n, pW)) return;
   const std::vector<int> counts = missingOfRows(a, n, p);
   block::Target weights(w, n, pW);
   for (int j = 0; j < pW; ++j) {
@@ -155,4 +166,14 @@ void ReplaceMissingObsLabels(Smatrix* labels, int n, const short* flags, const s
     const std::string number = std::to_string(i + 1);
     labels->cells[i] = prefix + std::u16string(number.begin(), number.end());
   }
+}
+
+void V_GetMissingDbl(const matrix* x, int n, const short* exclude, matrix*& out) {
+  const usable::Cells cells(x, n);
+  const usable::Present present(cells);
+  flagMissingOrExcluded(n, exclude, out, [&](int i) { return !present(i); });
+}
+
+void V_GetMissingStr(const Smatrix* x, int n, const short* exclude, matrix*& out) {
+  flagMissingOrExcluded(n, exclude, out, [&](int i) { return texts::labelAt(x, i).empty(); });
 }

@@ -1,4 +1,4 @@
-#include "missing/nearest_neighbours.h"
+#include "kavoratb1c/missing/nearest_neighbours.h"
 
 #include <algorithm>
 #include <array>
@@ -7,11 +7,13 @@
 #include <unordered_map>
 #include <vector>
 
+#include "access/taking_part.h"
+#include "access/texts.h"
+#include "access/usable.h"
 #include "kernels/kernels.h"
 #include "missing/cells_to_fill.h"
-#include "stats/usable.h"
-#include "stats/weights_or_ones.h"
-#include "tables/texts.h"
+
+using namespace kav;
 
 namespace {
 
@@ -86,7 +88,7 @@ struct Donors {
 Donors readDonors(const Tables& learned, const Widths& widths, const short* flags, const matrix* w, int lanes,
                   Codes& codes) {
   Donors donors;
-  const usable::WeightsOrOnes weights(w, learned.n);
+  const usable::RowWeights weights(w, learned.n);
   std::vector<int> place(static_cast<std::size_t>(std::max(learned.n, 0)), -1);
   usable::forEach(learned.n, usable::NotExcludedIfGiven(flags), [&](int i) {
     if (!(weights[i] > 0.0)) return;

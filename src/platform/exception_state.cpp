@@ -14,11 +14,7 @@
 #include <atomic>
 #include <cstdlib>
 
-/// As the C++ ABI has it (Itanium C++ ABI: Exception Handling, 2.2.2).
-struct __cxxabiv1::__cxa_eh_globals {
-  void* caughtExceptions;
-  unsigned uncaughtExceptions;
-};
+struct __cxxabiv1::__cxa_eh_globals : kav::ExceptionState {};
 
 namespace __gnu_cxx {
 /// Releases the runtime's memory reserve. Part of the runtime, for leak checkers; no header declares it.
@@ -75,7 +71,7 @@ extern "C" __cxa_eh_globals* __cxa_get_globals_fast() noexcept { return __cxa_ge
 
 }  // namespace __cxxabiv1
 
-void forgetHandledException() noexcept {
+void kav::forgetHandledException() noexcept {
   Place* const place = placeOf(GetCurrentThreadId());
   if (place == nullptr || place->state.caughtExceptions != nullptr || place->state.uncaughtExceptions != 0)
     return;
@@ -112,6 +108,6 @@ HMODULE(WINAPI* moduleSearchSlot)(LPCSTR) = &findNoModule;
 
 #else
 
-void forgetHandledException() noexcept {}
+void kav::forgetHandledException() noexcept {}
 
 #endif

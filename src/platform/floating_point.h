@@ -3,6 +3,8 @@
 
 #include <xmmintrin.h>
 
+namespace kav {
+
 /// Gives the processor its default floating-point control state - no traps, round to nearest, denormals kept,
 /// x87 in full precision for the runtime's own functions - and puts the host's back at the end. Hosts do
 /// change it: some run with traps unmasked or denormals flushed, and a thread of Windows starts with x87 in
@@ -54,3 +56,5 @@ class DefaultFloatingPoint {
   unsigned short x87Control_;
   X87Environment x87_;
 };
+
+}  // namespace kav

@@ -9,7 +9,21 @@
 // Needs windows.h before it.
 #include <oleauto.h>
 
+namespace kav {
+
+using ::BSTR;
+using ::OLECHAR;
+using ::VARIANT_BOOL;
+
+using ::SysAllocString;
+using ::SysFreeString;
+using ::SysStringByteLen;
+
+}  // namespace kav
+
 #else
+
+namespace kav {
 
 using VARIANT_BOOL = short;
 using OLECHAR = char16_t;
@@ -21,7 +35,9 @@ BSTR SysAllocString(const OLECHAR* text);
 /// Releases a string; null is ignored.
 void SysFreeString(BSTR text);
 
-/// Bytes of the characters, the closing zero not counted; 0 for null.
+/// Bytes of the characters, the closing zero not included; 0 for null.
 unsigned SysStringByteLen(BSTR text);
+
+}  // namespace kav
 
 #endif

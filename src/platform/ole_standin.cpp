@@ -8,6 +8,8 @@
 
 #include "platform/ole.h"
 
+namespace kav {
+
 namespace {
 
 // Large enough to keep what malloc aligns aligned.
@@ -39,3 +41,5 @@ unsigned SysStringByteLen(BSTR text) {
   std::memcpy(&counted, blockOf(text), sizeof counted);
   return counted;
 }
+
+}  // namespace kav

@@ -8,6 +8,8 @@
 
 #include "platform/ole.h"
 
+namespace kav {
+
 /// The characters before the first zero; a null string is the empty string.
 inline std::u16string textOf(const OLECHAR* text) {
   std::u16string characters;
@@ -49,3 +51,5 @@ class NewStrings {
  private:
   std::vector<BSTR> strings_;
 };
+
+}  // namespace kav

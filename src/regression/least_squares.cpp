@@ -1,4 +1,4 @@
-#include "regression/least_squares.h"
+#include "kavoratb1c/regression/least_squares.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,15 +7,18 @@
 #include <new>
 #include <vector>
 
+#include "access/block.h"
+#include "access/results.h"
 #include "algebra/column_correlations.h"
 #include "algebra/dense.h"
-#include "algebra/result_blocks.h"
-#include "algebra/standardization.h"
-#include "core/block.h"
-#include "core/thresholds.h"
 #include "decomp/packed.h"
-#include "platform/scalar.h"
-#include "stats/vector_sums.h"
+#include "kavoratb1c/algebra/standardization.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "numerics/scalar.h"
+#include "numerics/thresholds.h"
+#include "regression/design.h"
+
+using namespace kav;
 
 namespace {
 
@@ -47,45 +50,49 @@ std::unique_ptr<matrix> expanded(const matrix* x, int n, int p, int degree, int 
   return design;
 }
 
+/// The columns of a design and, last, the response.
+std::vector<const double*> columnsOf(const block::Values& x, int q, const block::Values& y) {
+  std::vector<const double*> columns;
+  columns.reserve(static_cast<std::size_t>(q) + 1);
+  for (int j = 0; j < q; ++j) columns.push_back(x.column(j));
+  columns.push_back(y.data());
+  return columns;
+}
+
 /// The correlations of a design, the response last, and what leads back from them.
 struct Standardized {
   Standardized(const block::Values& x, int n, int q, const block::Values& y, const matrix* weights,
                bool throughOrigin)
-      : total(V_Sum2(weights, n)), variables(q + 1) {
-    matrix *m = &means, *sd = &deviations, *v = &variances, *r = &correlations;
-    if (throughOrigin) {
-      matrix design(n, variables);
-      block::copyTo(x, n, q, design.values);
-      std::copy_n(y.data(), n, design.values + std::ptrdiff_t{n} * q);
-      M_MeanStDevVar(&design, n, variables, m, sd, v, nullptr, weights, kTrue, kTrue);
-      aboutOrigin(design, weights);
-      return;
-    }
-    std::vector<const double*> columns;
-    columns.reserve(static_cast<std::size_t>(q) + 1);
-    for (int j = 0; j < q; ++j) columns.push_back(x.column(j));
-    columns.push_back(y.data());
-    correlationsOfColumns(columns, n, weights, r, m, sd, v);
+      : total(V_Sum2(weights, n)),
+        variables(q + 1),
+        of(throughOrigin ? ColumnCorrelations(variables)
+                         : ColumnCorrelations(columnsOf(x, q, y), n, weights)) {
+    if (!throughOrigin) return;
+    matrix design(n, variables);
+    block::copyTo(x, n, q, design.values);
+    std::copy_n(y.data(), n, design.values + std::ptrdiff_t{n} * q);
+    matrix *m = &of.means, *sd = &of.deviations, *v = &of.variances;
+    M_MeanStDevVar(&design, n, variables, m, sd, v, nullptr, weights, kTrue, kTrue);
+    aboutOrigin(design, weights);
   }
 
-  /// Deviations, and all that follows from them, need a sum of weights above 1.
+  /// Standard deviations, and all that follows from them, need a sum of weights above 1.
   bool isKnown() const { return total > 1.0; }
 
   double total;
   int variables;
-  matrix means{variables, 1, 0.0}, deviations{variables, 1, 0.0}, variances{variables, 1, 0.0},
-      correlations{variables, variables, 0.0};
+  ColumnCorrelations of;
 
  private:
-  /// Products about 0, but deviations about the means: meant so.
+  /// Products about 0, but standard deviations about the means: this is meant.
   void aboutOrigin(const matrix& design, const matrix* weights) {
     const int n = design.nX;
     const block::Values rowWeights(weights, n);
-    result::into(&correlations, variables, variables, [&](block::Target& target) {
+    results::into(&of.correlations, variables, variables, [&](block::Target& target) {
       dense::multiplySymmetric({design.values, n, 1}, variables, n, target, dense::vectorScale(rowWeights));
       for (int b = 0; b < variables; ++b) {
         for (int a = 0; a < variables; ++a) {
-          const double scale = deviations.values[a] * deviations.values[b];
+          const double scale = of.deviations.values[a] * of.deviations.values[b];
           double& cell = target.column(b)[a];
           cell = scale <= kEpsilon ? 0.0 : cell / (total - 1.0) / scale;
         }
@@ -100,12 +107,12 @@ class Fit {
       : design_(design), q_(design.variables - 1), freedom_(n - q_ - 1.0) {
     swept_.resize(static_cast<std::size_t>(packed::cellsOf(design.variables)));
     for (int i = 0; i <= q_; ++i) {
-      for (int j = 0; j <= i; ++j) packed::at(swept_.data(), i, j) = design.correlations.getElement(i, j);
+      for (int j = 0; j <= i; ++j) packed::at(swept_.data(), i, j) = design.of.correlations.getElement(i, j);
     }
     for (int k = 0; k < q_; ++k) {
       const bool enters = packed::toleranceWith(swept_.data(), q_, k, tolerance) > tolerance;
       if (!enters || !(packed::at(swept_.data(), k, k) > 0.0)) {
-        design.deviations.values[k] = 0.0;
+        design.of.deviations.values[k] = 0.0;
       } else {
         packed::sweep(swept_.data(), design.variables, k);
       }
@@ -151,8 +158,8 @@ class Fit {
   bool hasErrors() const { return freedom_ > 0.0; }
 
  private:
-  double mean(int k) const { return design_.means.values[k]; }
-  double deviation(int k) const { return design_.deviations.values[k]; }
+  double mean(int k) const { return design_.of.means.values[k]; }
+  double deviation(int k) const { return design_.of.deviations.values[k]; }
   double swept(int i, int j) const { return packed::at(swept_.data(), i, j); }
 
   Standardized& design_;
@@ -164,7 +171,7 @@ class Fit {
 /// The design times the coefficients, the last of which belongs to no column.
 void fit(const block::Values& design, int n, const matrix& coefficients, matrix* fitted) {
   const int q = coefficients.nX - 1;
-  result::into(fitted, n, 1, [&](block::Target& target) {
+  results::into(fitted, n, 1, [&](block::Target& target) {
     for (std::ptrdiff_t begin = 0; begin < n; begin += kRowsAtOnce) {
       const std::ptrdiff_t end = std::min(begin + kRowsAtOnce, std::ptrdiff_t{n});
       std::fill(target.data() + begin, target.data() + end, 0.0);
@@ -185,15 +192,15 @@ void fit(const block::Values& design, int n, const matrix& coefficients, matrix*
 void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* weights, int degree,
                short interactions, short throughOrigin, double tolerance, matrix*& coefficients,
                matrix*& errors, matrix*& fitted) {
-  if (n < 1 || p < 1 || degree < 1) return;
+  if (!hasDesign(n, p, degree)) return;
   const int q = designColumns(p, degree, interactions);
   const std::unique_ptr<matrix> powers = degree == 1 ? nullptr : expanded(x, n, p, degree, q);
   const matrix* explanatory = degree == 1 ? x : powers.get();
   const block::Values cells(explanatory, n, q);
   Standardized design(cells, n, q, block::Values(y, n), weights, throughOrigin != 0);
-  matrix::matCheck(coefficients, q + 1, 1, 0.0);
-  matrix::matCheck(errors, q + 1, 1, 0.0);
-  matrix::matCheck(fitted, n, 1, 0.0);
+  results::refill(coefficients, q + 1, 1);
+  results::refill(errors, q + 1, 1);
+  results::refill(fitted, n, 1);
   if (!design.isKnown()) {
     for (matrix* unknown : {coefficients, errors, fitted}) {
       for (int k = 0; k < unknown->nX; ++k) unknown->setElement(k, kMissing);
@@ -218,7 +225,7 @@ void OLSBasic2(int n, int p, const matrix* x, const matrix* y, const matrix* wei
 void OLSBasic(int n, int p, const matrix* x, const matrix* y, const matrix* weights, int degree,
               short interactions, short throughOrigin, double tolerance, matrix*& coefficients,
               matrix*& fitted) {
-  if (n < 1 || p < 1 || degree < 1) return;
+  if (!hasDesign(n, p, degree)) return;
   matrix unused(designColumns(p, degree, interactions) + 1, 1);
   matrix* errors = &unused;
   OLSBasic2(n, p, x, y, weights, degree, interactions, throughOrigin, tolerance, coefficients, errors,

@@ -1,21 +1,23 @@
-#include "regression/newton_raphson.h"
+#include "kavoratb1c/regression/newton_raphson.h"
 
 #include <algorithm>
 #include <cmath>
 #include <memory>
 
-#include "algebra/products.h"
-#include "core/block.h"
-#include "core/results.h"
-#include "decomp/elimination.h"
-#include "platform/scalar.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "kavoratb1c/algebra/products.h"
+#include "kavoratb1c/decomp/inverses.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 int cNewtonRaphson(matrix*& parameters, int p, const matrix* excluded, const matrix* gradient,
                    const matrix* hessian, double tolerance, matrix*& errors, matrix*& inverse, short limited,
                    double largest) {
   if (parameters == nullptr || p < 1) return 1;
   if (cCleanConstraintsAndInvert(p, excluded, hessian, inverse) < 0) return -1;
-  if (errors == nullptr) results::prepare(errors, p, 1);
+  if (errors == nullptr) results::keep(errors, p, 1);
 
   matrix step(p, 1, 0.0);
   M_ProductBV(inverse, p, p, gradient, &step);

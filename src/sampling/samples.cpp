@@ -1,22 +1,20 @@
-#include "sampling/samples.h"
+#include "kavoratb1c/sampling/samples.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <vector>
 
-#include "algebra/result_blocks.h"
-#include "core/block.h"
-#include "platform/random.h"
-#include "platform/scalar.h"
-#include "tables/texts.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "access/texts.h"
+#include "numerics/scalar.h"
+#include "sampling/draws.h"
+
+using namespace kav;
 
 namespace {
 
 constexpr int kNoRow = -1;
-
-RandomNumbers started(int* seed, short seedIsGiven) {
-  return RandomNumbers(RandomNumbers::GetSeed(seed, seedIsGiven == kTrue));
-}
 
 void takeRows(const Smatrix* a, int n, int p, const std::vector<int>& rows, Smatrix*& out) {
   Smatrix::matCheck(out, static_cast<int>(rows.size()), p);
@@ -32,14 +30,11 @@ void sample(const Smatrix* a, int n, int p, int size, int count, Smatrix*& out, 
   std::vector<int> rows(static_cast<std::size_t>(std::max(size, 0)), kNoRow);
   for (int k = 0; k < count; ++k) rows[static_cast<std::size_t>(k)] = rowOf(k);
   takeRows(a, n, p, rows, out);
-  result::prepared(idx, size, 1, 1, [&](block::Target& target) {
+  results::refilled(idx, size, 1, 1, [&](block::Target& target) {
     std::transform(rows.begin(), rows.end(), target.data(),
                    [](int row) { return row == kNoRow ? kMissing : row + 1.0; });
   });
 }
-
-/// Rows of a sample that takes every row once at most.
-int withoutReplacement(int n, int size) { return std::clamp(size, 0, std::max(n, 0)); }
 
 /// Where an interval begins, 0-based.
 int beginOf(int interval, int n, int count) { return static_cast<int>(std::int64_t{interval} * n / count); }
@@ -90,17 +85,4 @@ void M_SampleUserDefined(const Smatrix* a, int n, int p, Smatrix*& out, const ma
     if (position >= 1) rows[static_cast<std::size_t>(i)] = position - 1;
   }
   takeRows(a, n, p, rows, out);
-}
-
-void GenerateRandomIndicator(matrix*& x, int n, int ones, int* seed, short seedIsGiven, int* nextSeed) {
-  RandomNumbers random = started(seed, seedIsGiven);
-  int wanted = withoutReplacement(n, ones);
-  result::prepared(x, n, 1, 1, [&](block::Target& target) {
-    for (int i = 0; i < n; ++i) {
-      const bool taken = random.below(n - i) < wanted;
-      target[i] = taken ? 1.0 : 0.0;
-      wanted -= taken ? 1 : 0;
-    }
-  });
-  random.GetSeedUpdate(nextSeed);
 }

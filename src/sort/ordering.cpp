@@ -9,7 +9,7 @@
 
 #include "sort/radix.h"
 
-namespace ordering {
+namespace kav::ordering {
 
 namespace {
 
@@ -211,4 +211,4 @@ Neighbours neighboursAt(const double* x, int count, int k) {
   return withSignsOfZeros(x, count, k, found);
 }
 
-}  // namespace ordering
+}  // namespace kav::ordering

@@ -6,9 +6,9 @@
 // key is NaN, for which a sort has no defined result; then the multimap is also the means.
 #pragma once
 
-#include "core/scratch.h"
+#include "numerics/scratch.h"
 
-namespace ordering {
+namespace kav::ordering {
 
 /// The rows 0 .. count-1 in the order of their keys.
 class RowOrder {
@@ -43,4 +43,4 @@ struct Neighbours {
 /// Cells k and k + 1 (0-based) of what sortAscending would make of x, without sorting it.
 Neighbours neighboursAt(const double* x, int count, int k);
 
-}  // namespace ordering
+}  // namespace kav::ordering

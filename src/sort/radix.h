@@ -7,7 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace radix {
+namespace kav::radix {
 
 inline constexpr int kDigitBits = 11;
 inline constexpr int kPasses = 3;
@@ -82,4 +82,4 @@ void sortRuns(Item* items, std::size_t count, Agree agree, Less less) {
   }
 }
 
-}  // namespace radix
+}  // namespace kav::radix

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <vector>
 
-#include "core/block.h"
-#include "core/scratch.h"
-#include "core/screening.h"
+#include "access/block.h"
+#include "access/screening.h"
+#include "numerics/scratch.h"
 
-namespace rows {
+namespace kav::rows {
 
 using ordering::RowOrder;
 
@@ -38,13 +38,13 @@ void moveWithMissing(double* values, bool* flags, const int* rows, Scratch<doubl
   std::copy_n(flags, before.size(), missing.data());
   std::copy_n(values, before.size(), before.data());
   for (int k = 0; k < static_cast<int>(before.size()); ++k) {
-    flags[k] = missing[rows[k]] || isMarker(before[rows[k]]);
+    flags[k] = isMissing(before[rows[k]], missing[rows[k]]);
     if (!flags[k]) values[k] = before[rows[k]];
   }
 }
 
 void flagMarkers(const double* values, bool* flags, int count) {
-  for (int k = 0; k < count; ++k) flags[k] = flags[k] || isMarker(values[k]);
+  for (int k = 0; k < count; ++k) flags[k] = isMissing(values[k], flags[k]);
 }
 
 /// Rows beyond the table read -1.0, or run on into the next column: where rows share a cell the last one
@@ -114,4 +114,4 @@ void permute(Smatrix* table, int columns, const Range& span, const RowOrder& ord
   }
 }
 
-}  // namespace rows
+}  // namespace kav::rows

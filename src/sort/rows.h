@@ -1,12 +1,12 @@
 // Rows of a table put into the order of ordering.h. Internal.
 #pragma once
 
-#include "core/Smatrix.h"
-#include "core/matrix.h"
-#include "core/range.h"
+#include "kavoratb1c/Smatrix.h"
+#include "kavoratb1c/matrix.h"
+#include "numerics/range.h"
 #include "sort/ordering.h"
 
-namespace rows {
+namespace kav::rows {
 
 // Row span.begin + k receives row span.begin + order[k]. Columns beyond the table are not moved.
 
@@ -22,4 +22,4 @@ void permuteWithMissing(matrix* table, int columns, const Range& span, const ord
 /// The table has the span.
 void permute(Smatrix* table, int columns, const Range& span, const ordering::RowOrder& order);
 
-}  // namespace rows
+}  // namespace kav::rows

@@ -1,15 +1,17 @@
-#include "sort/sorts.h"
+#include "kavoratb1c/sort/sorts.h"
 
 #include <algorithm>
 #include <climits>
 #include <cmath>
 
-#include "core/block.h"
-#include "core/results.h"
-#include "core/thresholds.h"
-#include "platform/scalar.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "numerics/scalar.h"
+#include "numerics/thresholds.h"
 #include "sort/ordering.h"
 #include "sort/rows.h"
+
+using namespace kav;
 
 using ordering::RowOrder;
 
@@ -146,7 +148,7 @@ int SortQVector(Smatrix* x, int, int from, int to, short descending) {
 
 void SortApply(const matrix* source, int rows, int columns, const matrix* order, matrix*& out) {
   const block::Values from(source, rows, columns), asked(order, rows);
-  results::prepare(out, rows, columns);
+  results::keep(out, rows, columns);
   block::Target to(out, rows, columns);
   for (int j = 0; j < columns; ++j) {
     const double* column = from.column(j);

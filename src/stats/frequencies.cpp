@@ -1,4 +1,4 @@
-#include "stats/frequencies.h"
+#include "kavoratb1c/stats/frequencies.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,12 +7,15 @@
 #include <unordered_set>
 #include <vector>
 
-#include "core/results.h"
-#include "platform/scalar.h"
+#include "access/results.h"
+#include "access/texts.h"
+#include "access/usable.h"
+#include "numerics/scalar.h"
 #include "stats/label_totals.h"
-#include "stats/usable.h"
 
-using usable::labelAt;
+using namespace kav;
+
+using texts::labelAt;
 
 namespace {
 

@@ -1,10 +1,12 @@
-#include "stats/goodness_of_fit.h"
+#include "kavoratb1c/stats/goodness_of_fit.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "platform/scalar.h"
-#include "stats/usable.h"
+#include "access/taking_part.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 namespace {
 
@@ -12,12 +14,11 @@ namespace {
 struct Errors {
   template <class Use, class Term>
   Errors(int n, int first, const matrix* w, Use use, Term term) {
-    const block::Values weights(w, n);
+    const usable::RowWeights weights(w, n);
     for (int i = std::max(first, 1) - 1; i < n; ++i) {
       if (!use(i)) continue;
-      const double weight = w == nullptr ? 1.0 : weights[i];
-      sum += term(i) * weight;
-      total += weight;
+      sum += term(i) * weights[i];
+      total += weights[i];
     }
   }
 

@@ -8,6 +8,8 @@
 #include <unordered_map>
 #include <vector>
 
+namespace kav {
+
 /// The labels met so far, each with its total weight. The labels' characters stay where they are.
 class LabelTotals {
  public:
@@ -50,3 +52,5 @@ class LabelTotals {
   std::unordered_map<std::u16string_view, std::size_t> positions_;
   std::vector<Label> labels_;
 };
+
+}  // namespace kav

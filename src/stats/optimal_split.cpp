@@ -1,11 +1,13 @@
-#include "stats/optimal_split.h"
+#include "kavoratb1c/stats/optimal_split.h"
 
 #include <vector>
 
-#include "core/moments.h"
-#include "core/range.h"
-#include "core/results.h"
-#include "stats/usable.h"
+#include "access/results.h"
+#include "access/usable.h"
+#include "numerics/moments.h"
+#include "numerics/range.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,11 +1,13 @@
-#include "stats/other_means.h"
+#include "kavoratb1c/stats/other_means.h"
 
 #include <cmath>
 
-#include "core/moments.h"
-#include "core/results.h"
-#include "platform/scalar.h"
-#include "stats/usable.h"
+#include "access/results.h"
+#include "access/usable.h"
+#include "numerics/moments.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 using results::give;
 

@@ -1,11 +1,13 @@
-#include "stats/quantiles.h"
+#include "kavoratb1c/stats/quantiles.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "platform/scalar.h"
+#include "access/usable.h"
+#include "numerics/scalar.h"
 #include "sort/ordering.h"
-#include "stats/usable.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "stats/ranks.h"
+#include "kavoratb1c/stats/ranks.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,9 +6,11 @@
 #include <limits>
 #include <vector>
 
-#include "core/results.h"
+#include "access/results.h"
+#include "access/usable.h"
 #include "sort/ordering.h"
-#include "stats/usable.h"
+
+using namespace kav;
 
 using results::give;
 
@@ -49,7 +51,7 @@ template <class Rounded>
 void ranksWithTies(const matrix* x, int n, const matrix* w, matrix*& ranks, int* ties, matrix*& tieSizes,
                    Rounded rounded) {
   const block::Values cells(x, n), weights(w, n);
-  results::prepare(ranks, n, 1);
+  results::keep(ranks, n, 1);
   block::Target target(ranks, n);
   const std::vector<int> sizes =
       ranksWithTies(cells.data(), n, w == nullptr ? nullptr : weights.data(), target.data(), rounded);
@@ -76,30 +78,12 @@ std::vector<double> distinctValues(const matrix* x, int n) {
   return values;
 }
 
-/// Largest i with i (i - 1) / 2 < position: the row of a position in packed triangular storage.
-int triangleRow(int position) {
-  auto row = static_cast<std::int64_t>((1.0 + std::sqrt(8.0 * position - 7.0)) / 2.0);
-  while (row * (row - 1) / 2 >= position) --row;
-  while (row * (row + 1) / 2 < position) ++row;
-  return static_cast<int>(row);
-}
-
-/// @param rows   of the triangle
-/// @param shift  what is added to its rows: 1 where the diagonal is not stored
-void trianglePosition(int position, int rows, int shift, int* row, int* column) {
-  const std::int64_t cells = rows < 1 ? 0 : std::int64_t{rows} * (rows + std::int64_t{1}) / 2;
-  const bool exists = position >= 1 && position <= cells;
-  const std::int64_t i = exists ? triangleRow(position) : 0;
-  give(row, exists ? static_cast<int>(i) + shift : 0);
-  give(column, exists ? static_cast<int>(position - i * (i - 1) / 2) : 0);
-}
-
 }  // namespace
 
 void V_GetRanks(const matrix* x, int n, matrix*& ranks) {
   const block::Values cells(x, n);
   const RowOrder order(cells.data(), n, false);
-  results::prepare(ranks, n, 1);
+  results::keep(ranks, n, 1);
   block::Target target(ranks, n);
   double rank = 0.0;
   double before = 0.0;
@@ -123,7 +107,7 @@ void V_GetRanksTiesInt(const matrix* x, int n, const matrix* w, matrix*& ranks, 
 
 void M_GetRanksTies(const matrix* a, int n, int p, const matrix* w, matrix*& ranks, int* ties) {
   const block::Values cells(a, n, p), weights(w, n);
-  results::prepare(ranks, n, p);
+  results::keep(ranks, n, p);
   block::Target target(ranks, n, p);
   for (int j = 0; j < p; ++j) {
     const auto sizes =
@@ -138,37 +122,9 @@ int V_NbDistinct(const matrix* x, int n) { return static_cast<int>(distinctValue
 void V_ExtractDistinct(const matrix* x, int n, matrix*& out, int* count) {
   const std::vector<double> values = distinctValues(x, n);
   const auto size = static_cast<int>(values.size());
-  results::prepare(out, size, 1);
+  results::keep(out, size, 1);
   block::Target target(out, size);
   std::copy(values.begin(), values.end(), target.data());
   target.store();
   give(count, size);
-}
-
-double V_TimeIntervalSize(const matrix* x, int n, short sort) {
-  const usable::Cells cells(x, n);
-  Scratch<double> times(static_cast<std::size_t>(std::max(n, 0)));
-  int count = 0;
-  usable::forEach(n, usable::Present(cells), [&](int i) { times[count++] = cells[i]; });
-  if (sort == kTrue) ordering::sortAscending(times.data(), count);
-  double smallest = std::numeric_limits<double>::infinity();
-  for (int k = 1; k < count; ++k) {
-    const double difference = times[k] - times[k - 1];
-    if (difference > 0.0 && difference < smallest) smallest = difference;
-  }
-  return std::isinf(smallest) ? kMissing : smallest;
-}
-
-void V_GetPositionInMatNNp1o2(int position, int n, int* row, int* column) {
-  trianglePosition(position, n, 0, row, column);
-}
-
-void V_GetPositionInMatNNm1o2(int position, int n, int* row, int* column) {
-  trianglePosition(position, n < 1 ? 0 : n - 1, 1, row, column);
-}
-
-void V_GetPositionInMatNN(int position, int n, int* row, int* column) {
-  const bool exists = position >= 1 && position <= addressing::cellCount(n, n);
-  give(row, exists ? (position - 1) % n + 1 : 0);
-  give(column, exists ? (position - 1) / n + 1 : 0);
 }

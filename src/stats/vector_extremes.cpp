@@ -1,13 +1,18 @@
-#include "stats/vector_extremes.h"
+#include "kavoratb1c/stats/vector_extremes.h"
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 
-#include "core/results.h"
-#include "core/screening.h"
-#include "platform/scalar.h"
-#include "stats/usable.h"
+#include "access/results.h"
+#include "access/screening.h"
+#include "access/usable.h"
+#include "numerics/scalar.h"
+#include "numerics/scratch.h"
+#include "sort/ordering.h"
+
+using namespace kav;
 
 namespace {
 
@@ -33,7 +38,7 @@ class GroupedExtremes {
   ///
   /// @return the first row not seen
   template <int rows>
-  int see(const double* x, const char* flags, const short* exclude, int i, int n) {
+  int see(const double* x, const bool* flags, const short* exclude, int i, int n) {
     __m128d low = min_, high = max_;
     while (n - i >= rows && screening::allUsed<rows>(flags + i, exclude == nullptr ? nullptr : exclude + i)) {
       __m128d lowA = low, lowB = low, highA = high, highB = high;
@@ -153,4 +158,18 @@ double V_MaxAndMaxPos(const matrix* x, int n, int* position) {
 
 double V_MinAndMinPos(const matrix* x, int n, int* position) {
   return firstExtreme(x, n, position, std::less<double>());
+}
+
+double V_TimeIntervalSize(const matrix* x, int n, short sort) {
+  const usable::Cells cells(x, n);
+  Scratch<double> times(static_cast<std::size_t>(std::max(n, 0)));
+  int count = 0;
+  usable::forEach(n, usable::Present(cells), [&](int i) { times[count++] = cells[i]; });
+  if (sort == kTrue) ordering::sortAscending(times.data(), count);
+  double smallest = std::numeric_limits<double>::infinity();
+  for (int k = 1; k < count; ++k) {
+    const double difference = times[k] - times[k - 1];
+    if (difference > 0.0 && difference < smallest) smallest = difference;
+  }
+  return std::isinf(smallest) ? kMissing : smallest;
 }

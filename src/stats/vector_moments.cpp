@@ -1,11 +1,13 @@
-#include "stats/vector_moments.h"
+#include "kavoratb1c/stats/vector_moments.h"
 
 #include <cmath>
 
-#include "core/moments.h"
-#include "core/results.h"
-#include "platform/scalar.h"
-#include "stats/usable.h"
+#include "access/results.h"
+#include "access/usable.h"
+#include "numerics/moments.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 using moments::Denominator;
 using results::give;

@@ -1,13 +1,16 @@
-#include "stats/vector_sums.h"
+#include "kavoratb1c/stats/vector_sums.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "core/moments.h"
-#include "core/range.h"
-#include "core/screening.h"
-#include "stats/usable.h"
+#include "access/screening.h"
+#include "access/texts.h"
+#include "access/usable.h"
+#include "numerics/moments.h"
+#include "numerics/range.h"
 #include "stats/weighted_mean.h"
+
+using namespace kav;
 
 namespace {
 
@@ -134,7 +137,7 @@ int V_NbMissing(const matrix* x, int n) {
 
 int V_NbMissing(const Smatrix* x, int n) {
   int missing = 0;
-  for (int i = 0; i < n; ++i) missing += usable::labelAt(x, i).empty() ? 1 : 0;
+  for (int i = 0; i < n; ++i) missing += texts::labelAt(x, i).empty() ? 1 : 0;
   return missing;
 }
 

@@ -1,11 +1,12 @@
-#include "stats/vector_tests.h"
+#include "kavoratb1c/stats/vector_tests.h"
 
 #include <algorithm>
 
-#include "core/results.h"
-#include "platform/scalar.h"
-#include "stats/usable.h"
-#include "stats/vector_sums.h"
+#include "access/usable.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 namespace {
 
@@ -17,15 +18,6 @@ bool everyCell(const matrix* x, int n, Test test) {
 
 bool isIn(double x, double lower, double upper, bool strictly) {
   return strictly ? x > lower && x < upper : x >= lower && x <= upper;
-}
-
-template <class IsMissing>
-void missingOrExcluded(int n, const short* exclude, matrix*& out, IsMissing isMissing) {
-  results::prepare(out, n, 1);
-  block::Target flags(out, n);
-  const usable::NotExcludedIfGiven used(exclude);
-  for (int i = 0; i < n; ++i) flags[i] = asFlag(!used(i) || isMissing(i));
-  flags.store();
 }
 
 }  // namespace
@@ -94,14 +86,4 @@ short V_V1GreaterThanMatCols(const matrix* w, int n, const matrix* y, int p) {
     }
   }
   return kTrue;
-}
-
-void V_GetMissingDbl(const matrix* x, int n, const short* exclude, matrix*& out) {
-  const usable::Cells cells(x, n);
-  const usable::Present present(cells);
-  missingOrExcluded(n, exclude, out, [&](int i) { return !present(i); });
-}
-
-void V_GetMissingStr(const Smatrix* x, int n, const short* exclude, matrix*& out) {
-  missingOrExcluded(n, exclude, out, [&](int i) { return usable::labelAt(x, i).empty(); });
 }

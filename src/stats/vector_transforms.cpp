@@ -1,4 +1,4 @@
-#include "stats/vector_transforms.h"
+#include "kavoratb1c/stats/vector_transforms.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -6,11 +6,13 @@
 #include <memory>
 #include <new>
 
-#include "core/results.h"
-#include "platform/scalar.h"
-#include "stats/usable.h"
-#include "stats/vector_moments.h"
-#include "stats/vector_sums.h"
+#include "access/results.h"
+#include "access/usable.h"
+#include "kavoratb1c/stats/vector_moments.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 namespace {
 
@@ -90,7 +92,7 @@ void V_NormToValW(matrix* x, int n, double value, const matrix* w) { norm(x, n, 
 
 void V_Standardize(const matrix* x, int n, const short* exclude, const matrix* w, short unbiased,
                    matrix*& out) {
-  results::prepare(out, n, 1);
+  results::keep(out, n, 1);
   standardize(x, n, exclude, w, unbiased, out);
 }
 
@@ -99,7 +101,7 @@ void V_Standardize2(matrix* x, int n, const short* exclude, const matrix* w, sho
 }
 
 void V_Rescale(const matrix* x, int n, double lower, double upper, const short* exclude, matrix*& out) {
-  results::prepare(out, n, 1);
+  results::keep(out, n, 1);
   rescale(x, n, lower, upper, exclude, out);
 }
 
@@ -108,14 +110,14 @@ void V_Rescale2(matrix* x, int n, double lower, double upper, const short* exclu
 }
 
 void V_ReplaceVal(const matrix* x, int n, double from, double to, matrix*& out) {
-  results::prepare(out, n, 1);
+  results::keep(out, n, 1);
   replace(x, n, from, to, out);
 }
 
 void V_ReplaceVal2(matrix* x, int n, double from, double to) { replace(x, n, from, to, x); }
 
 void V_ProductV1V2(const matrix* x, int n, const matrix* y, matrix*& out) {
-  results::prepare(out, n, 1);
+  results::keep(out, n, 1);
   multiply(x, n, y, out);
 }
 
@@ -123,7 +125,7 @@ void V_ProductV1V22(matrix* x, int n, const matrix* y) { multiply(x, n, y, x); }
 
 void V_ProductV1TrV2(const matrix* x, int n, const matrix* y, matrix*& out) {
   const block::Values a(x, n), b(y, n);
-  results::prepare(out, n, n);
+  results::keep(out, n, n);
   block::Target table(out, n, n);
   for (int j = 0; j < n; ++j) {
     double* column = table.column(j);
@@ -135,7 +137,7 @@ void V_ProductV1TrV2(const matrix* x, int n, const matrix* y, matrix*& out) {
 void V_ProductHorizV1V2(const matrix* x, int p1, const matrix* y, int p2, matrix*& out, int p) {
   const auto size = static_cast<int>(std::clamp<std::int64_t>(p, 0, addressing::cellCount(p1, p2)));
   const block::Values a(x, p1), b(y, p2);
-  results::prepare(out, size, 1);
+  results::keep(out, size, 1);
   fill(out, size, [&](int k) { return a[k / p2] * b[k % p2]; });
 }
 
@@ -147,7 +149,7 @@ void V_ProductHorizV1V22(matrix*& x, int* p1, const matrix* y, int p2) {
   matrix* product = nullptr;
   V_ProductHorizV1V2(x, *p1, y, p2, product, size);
   const std::unique_ptr<matrix> owner(product);
-  results::prepare(x, size, 1);
+  results::keep(x, size, 1);
   product->copyMatTo(x);
   *p1 = size;
 }

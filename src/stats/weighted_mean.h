@@ -1,7 +1,9 @@
 // The weighted mean of V_Mean, once for everybody. Internal.
 #pragma once
 
-#include "stats/usable.h"
+#include "access/usable.h"
+
+namespace kav {
 
 /// Sum of weight(i) value(i) over sum of weight(i), both added in index order over the cells that a rule
 /// uses; NaN (0/0) when it uses none.
@@ -15,3 +17,5 @@ double weightedMean(int n, Rule rule, Value value, Weight weight) {
   });
   return sum / total;
 }
+
+}  // namespace kav

@@ -1,13 +1,15 @@
-#include "tables/blocks.h"
+#include "kavoratb1c/tables/blocks.h"
 
 #include <algorithm>
 #include <memory>
 #include <vector>
 
-#include "algebra/result_blocks.h"
-#include "core/block.h"
-#include "core/range.h"
-#include "tables/texts.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "access/texts.h"
+#include "numerics/range.h"
+
+using namespace kav;
 
 namespace {
 
@@ -21,7 +23,7 @@ struct Part {
 
 void copy(const matrix* a, int n, int p, const Part& part, matrix*& out) {
   const block::Values cells(a, n, p);
-  result::prepared(out, part.rows.count(), part.columns.count(), 1, [&](block::Target& target) {
+  results::refilled(out, part.rows.count(), part.columns.count(), 1, [&](block::Target& target) {
     for (int j = 0; j < part.columns.count(); ++j) {
       std::copy_n(cells.column(part.columns.begin + j) + part.rows.begin, part.rows.count(),
                   target.column(j));
@@ -33,7 +35,7 @@ void copy(const matrix* a, int n, int p, const Part& part, matrix*& out) {
 void copyRows(const matrix* a, int n, int p, const std::vector<int>& rows, matrix*& out) {
   const block::Values cells(a, n, p);
   const auto count = static_cast<int>(rows.size());
-  result::prepared(out, count, p, 1, [&](block::Target& target) {
+  results::refilled(out, count, p, 1, [&](block::Target& target) {
     for (int j = 0; j < p; ++j) {
       const double* column = cells.column(j);
       double* to = target.column(j);
@@ -46,7 +48,7 @@ void copyRows(const matrix* a, int n, int p, const std::vector<int>& rows, matri
 void copyOutside(const matrix* a, int n, int p, const Part& left, matrix*& out) {
   const block::Values cells(a, n, p);
   const int rows = std::max(n, 0) - left.rows.count(), columns = std::max(p, 0) - left.columns.count();
-  result::prepared(out, rows, columns, 1, [&](block::Target& target) {
+  results::refilled(out, rows, columns, 1, [&](block::Target& target) {
     for (int j = 0; j < columns; ++j) {
       const double* column = cells.column(j < left.columns.begin ? j : j + left.columns.count());
       double* rest = std::copy_n(column, left.rows.begin, target.column(j));
@@ -63,7 +65,7 @@ void removeInPlace(matrix*& a, int n, int p, const Part& left) {
   matrix* rest = nullptr;
   copyOutside(a, n, p, left, rest);
   const std::unique_ptr<matrix> owner(rest);
-  result::replace(a, *rest);
+  results::replace(a, *rest);
 }
 
 /// Rows above a row, columns left of a column; below 0 for positions before the table.
@@ -94,7 +96,7 @@ void M_ExtractMatToMatByCol(const matrix* a, int n, int p, int columnFrom, int c
 }
 
 void M_PasteBlock(const matrix* a, int n, int p, matrix* to, int n2, int p2, int row, int column) {
-  if (!result::hasCells(n, p, n2, p2)) return;
+  if (!results::haveCells(n, p, n2, p2)) return;
   const auto last = [](int first, int extent, int room) {
     return static_cast<int>(std::min<std::int64_t>(std::int64_t{first} + extent - 1, room));
   };
@@ -116,7 +118,7 @@ void M_CopyToBigger(const matrix* a, int n, int p, matrix* to, int n2, int p2) {
 void M_CopyResize(const matrix* a, int n, int p, matrix*& out, int n2, int p2) {
   const int rows = std::clamp(n2, 0, std::max(n, 0)), columns = std::clamp(p2, 0, std::max(p, 0));
   const block::Values cells(a, n, p);
-  result::prepared(out, n2, p2, 1, [&](block::Target& target) {
+  results::refilled(out, n2, p2, 1, [&](block::Target& target) {
     for (int j = 0; j < p2; ++j) {
       const int copied = j < columns ? rows : 0;
       if (copied > 0) std::copy_n(cells.column(j), copied, target.column(j));
@@ -172,14 +174,4 @@ void M_MoveRow(matrix* a, int n, int p, int row, int newPosition) {
     }
   }
   cells.store();
-}
-
-int M_IsColConstant(const matrix* a, int n, int p) {
-  if (n < 1) return 0;
-  const block::Values cells(a, n, p);
-  for (int j = 0; j < p; ++j) {
-    const double* column = cells.column(j);
-    if (std::all_of(column + 1, column + n, [=](double x) { return x == *column; })) return j + 1;
-  }
-  return 0;
 }

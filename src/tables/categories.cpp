@@ -1,12 +1,14 @@
-#include "tables/categories.h"
+#include "kavoratb1c/tables/categories.h"
 
 #include <algorithm>
 
-#include "algebra/result_blocks.h"
-#include "core/block.h"
-#include "stats/usable.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "access/texts.h"
+#include "access/usable.h"
 #include "tables/category_lists.h"
-#include "tables/texts.h"
+
+using namespace kav;
 
 using categories::Categories;
 using categories::forEachColumn;
@@ -20,7 +22,7 @@ void M_ReplaceCatByCodes(const Smatrix* labels, int n, int p, const int* counts,
 void M_ReplaceStrByCodes(const Smatrix* labels, int n, int p, const int* counts, const Smatrix* categories,
                          const short* rowFlags, int first, matrix*& codes) {
   const usable::NotExcludedIfGiven used(rowFlags);
-  result::prepared(codes, n, p, 1, [&](block::Target& target) {
+  results::refilled(codes, n, p, 1, [&](block::Target& target) {
     forEachColumn(p, counts, categories, [&](int j, int, const Categories& known) {
       for (int i = 0; i < n; ++i) {
         const int position = used(i) ? known.positionOf(texts::cell(labels, i, j)) : kUnknown;
@@ -34,7 +36,7 @@ void BuildDisjunctiveTable(const Smatrix* labels, int n, int p, const int* count
                            int columns, matrix*& table, int constraint, int leaveFirst) {
   const bool dropsFirst = constraint == 1 && leaveFirst == 0;
   const bool dropsLast = constraint == 2 || constraint == 3;
-  result::prepared(table, n, columns, 1, [&](block::Target& target) {
+  results::refilled(table, n, columns, 1, [&](block::Target& target) {
     for (int j = 0; j < columns; ++j) std::fill_n(target.column(j), n, 0.0);
     std::int64_t begin = 0;
     forEachColumn(p, counts, categories, [&](int j, int count, const Categories& known) {

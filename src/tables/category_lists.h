@@ -6,11 +6,11 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "core/Smatrix.h"
+#include "access/texts.h"
 #include "core/addressing.h"
-#include "stats/usable.h"
+#include "kavoratb1c/Smatrix.h"
 
-namespace categories {
+namespace kav::categories {
 
 inline constexpr int kUnknown = -1;
 
@@ -20,7 +20,7 @@ class Categories {
   /// @param begin  of the column's, in the list of all
   Categories(const Smatrix* all, std::int64_t begin, int count) : begin_(begin) {
     for (int k = 0; k < count; ++k)
-      positions_.emplace(usable::labelAt(all, static_cast<std::ptrdiff_t>(begin + k)), k);
+      positions_.emplace(texts::labelAt(all, static_cast<std::ptrdiff_t>(begin + k)), k);
   }
 
   /// 0-based; of equal categories the first.
@@ -51,4 +51,4 @@ void forEachColumn(int p, const int* counts, const Smatrix* all, Visit visit) {
   }
 }
 
-}  // namespace categories
+}  // namespace kav::categories

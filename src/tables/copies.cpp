@@ -1,26 +1,12 @@
-#include "tables/copies.h"
+#include "kavoratb1c/tables/copies.h"
 
 #include <algorithm>
 
+#include "access/block.h"
+#include "access/texts.h"
 #include "core/addressing.h"
-#include "core/block.h"
-#include "missing/missing_values.h"
-#include "tables/texts.h"
 
-int V_SetToValue(matrix*& v, int n, double x) { return SetVectorToValue(v, n, x); }
-
-int V_Set1toN(matrix*& v, int n) {
-  matrix::matCheck(v, n, 1, 0.0);
-  block::Target target(v, n);
-  for (int i = 0; i < n; ++i) target[i] = i + 1.0;
-  target.store();
-  return 0;
-}
-
-void V_SetToValueStr(Smatrix*& v, int n, const std::u16string& s) {
-  Smatrix::matCheck(v, n, 1);
-  std::fill_n(v->cells, addressing::cellCount(*v), s);
-}
+using namespace kav;
 
 void V_Duplicate(const matrix* v, int n, matrix*& out) { M_Duplicate(v, n, 1, out); }
 

@@ -1,11 +1,13 @@
-#include "tables/merges.h"
+#include "kavoratb1c/tables/merges.h"
 
 #include <algorithm>
 #include <memory>
 
-#include "algebra/result_blocks.h"
-#include "core/block.h"
-#include "tables/texts.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "access/texts.h"
+
+using namespace kav;
 
 namespace {
 
@@ -31,7 +33,7 @@ struct Piece {
 void assemble(matrix*& c, int rows, int columns, const Piece<matrix>& first, const Piece<matrix>& second) {
   const block::Values firstCells(first.table, first.rows, first.columns),
       secondCells(second.table, second.rows, second.columns);
-  result::prepared(c, rows, columns, 1, [&](block::Target& target) {
+  results::refilled(c, rows, columns, 1, [&](block::Target& target) {
     const auto place = [&](const Piece<matrix>& piece, const block::Values& cells, int j, double* to) {
       if (piece.rowsIn(j) > 0) std::copy_n(cells.column(j - piece.column), piece.rows, to + piece.row);
     };
@@ -74,7 +76,7 @@ void inPlace(matrix*& a, Merge merge) {
   matrix* merged = nullptr;
   merge(merged);
   const std::unique_ptr<matrix> owner(merged);
-  result::replace(a, *merged);
+  results::replace(a, *merged);
 }
 
 }  // namespace

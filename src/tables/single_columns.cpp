@@ -1,11 +1,13 @@
-#include "tables/single_columns.h"
+#include "kavoratb1c/tables/single_columns.h"
 
 #include <algorithm>
 
-#include "algebra/result_blocks.h"
-#include "core/block.h"
-#include "core/range.h"
-#include "tables/texts.h"
+#include "access/block.h"
+#include "access/results.h"
+#include "access/texts.h"
+#include "numerics/range.h"
+
+using namespace kav;
 
 namespace {
 
@@ -19,7 +21,7 @@ void CopyMatrixColToMatrixCol(const matrix* a, int n, int column, matrix* b, int
 }
 
 void CopyMatrixColToVector(const matrix* a, int n, int column, matrix*& x) {
-  result::prepared(x, n, 1, 1, [&](block::Target& target) {
+  results::refilled(x, n, 1, 1, [&](block::Target& target) {
     for (int i = 0; i < n; ++i) target[i] = column < 1 ? 0.0 : cellOf(a, i, column - 1);
   });
 }
@@ -33,12 +35,4 @@ void CopyMatrixColToOneColMat(const Smatrix* a, int n, int column, Smatrix*& x) 
 void CopyMatrixRowToMatrixRow(const matrix* a, int n, int p, int row, matrix* b, int n2, int toRow) {
   if (b == nullptr || row < 1 || row > n || toRow < 1 || toRow > n2) return;
   for (int j = 0; j < p; ++j) b->setElement(toRow - 1, j, cellOf(a, row - 1, j));
-}
-
-void GenerateIndicator(matrix*& x, int n, int from, int to) {
-  const Range ones(n, from, to);
-  result::prepared(x, n, 1, 1, [&](block::Target& target) {
-    std::fill_n(target.data(), n, 0.0);
-    std::fill(target.data() + ones.begin, target.data() + ones.end, 1.0);
-  });
 }

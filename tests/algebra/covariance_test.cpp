@@ -1,10 +1,13 @@
-#include "algebra/covariance.h"
+#include "kavoratb1c/algebra/covariance.h"
 
 #include <fstream>
 #include <sstream>
 #include <utility>
 
+#include "kavoratb1c/algebra/similarities.h"
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,6 +1,8 @@
-#include "algebra/elementwise.h"
+#include "kavoratb1c/algebra/elementwise.h"
 
 #include "support/tables.h"
+
+using namespace kav;
 
 TEST(Elementwise, EqualsItsDefinitionBitForBit) {
   Random random(41);

@@ -1,10 +1,12 @@
-#include "algebra/products.h"
+#include "kavoratb1c/algebra/products.h"
 
 #include <cmath>
 
-#include "algebra/elementwise.h"
-#include "core/thresholds.h"
+#include "kavoratb1c/algebra/elementwise.h"
+#include "numerics/thresholds.h"
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,11 +1,13 @@
-#include "algebra/standardization.h"
+#include "kavoratb1c/algebra/standardization.h"
 
 #include <functional>
 #include <optional>
 #include <utility>
 
-#include "stats/vector_transforms.h"
+#include "kavoratb1c/stats/vector_transforms.h"
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

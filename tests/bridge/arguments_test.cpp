@@ -9,6 +9,8 @@
 
 #include "support/bits.h"
 
+using namespace kav;
+
 using namespace bridge;
 
 namespace {

@@ -3,8 +3,10 @@
 #include <limits>
 
 #include "bridge/generated/entries.h"
-#include "core/marker.h"
-#include "platform/scalar.h"
+#include "kavoratb1c/marker.h"
+#include "numerics/scalar.h"
+
+using namespace kav;
 
 extern "C" {
 double VB_V_Sum2Dbl(double* iVector, int n);

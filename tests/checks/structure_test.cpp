@@ -1,9 +1,12 @@
-#include "checks/structure.h"
+#include "kavoratb1c/checks/structure.h"
 
+#include <climits>
 #include <cmath>
 #include <optional>
 
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 
@@ -100,4 +103,15 @@ TEST(Structure, BoundsOfFractionsAndWholeNumbers) {
       EXPECT_TRUE(M_IsIn01(&m, 0, 2) == -1 && M_IsLong(&m, 2, -1) == -1);
     }
   }
+}
+
+TEST(Structure, ConstantColumns) {
+  matrix a(2, 2, 4.75);
+  for (const auto& [x, y, first] :
+       {std::tuple(1.5, 1.0, 2), {NAN, NAN, 2}, {kMissing, kMissing, 1}, {0.0, -0.0, 1}}) {
+    a.values[0] = x, a.values[1] = y;
+    EXPECT_EQ(M_IsColConstant(&a, 2, 2), first);
+    EXPECT_EQ(M_IsColConstant(&a, 2, 1), first % 2);
+  }
+  EXPECT_EQ(M_IsColConstant(&a, INT_MAX, 0) + M_IsColConstant(&a, 0, INT_MAX), 0);
 }

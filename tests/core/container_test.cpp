@@ -6,8 +6,8 @@
 #include <memory>
 #include <new>
 
-#include "core/Smatrix.h"
-#include "core/matrix.h"
+#include "kavoratb1c/Smatrix.h"
+#include "kavoratb1c/matrix.h"
 
 namespace {
 

@@ -6,8 +6,10 @@
 #include <vector>
 
 #include "core/addressing.h"
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
 #include "support/bits.h"
+
+using namespace kav;
 
 template <class T>
 std::vector<T> firstOf(const T* array, std::int64_t count) {

@@ -4,8 +4,10 @@
 #include <utility>
 
 #include "core/contents.h"
-#include "core/thresholds.h"
+#include "numerics/thresholds.h"
 #include "support/random.h"
+
+using namespace kav;
 
 namespace {
 

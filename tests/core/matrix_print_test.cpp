@@ -4,8 +4,10 @@
 
 #include <string>
 
-#include "core/Smatrix.h"
-#include "core/matrix.h"
+#include "kavoratb1c/Smatrix.h"
+#include "kavoratb1c/matrix.h"
+
+using namespace kav;
 
 namespace {
 

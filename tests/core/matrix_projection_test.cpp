@@ -4,6 +4,8 @@
 #include "core/contents.h"
 #include "support/random.h"
 
+using namespace kav;
+
 namespace {
 
 void fill(matrix& m, Random& random) {

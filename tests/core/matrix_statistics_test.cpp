@@ -2,6 +2,8 @@
 
 #include "support/tables.h"
 
+using namespace kav;
+
 TEST(MatrixColumns, StatisticsAndNormalizationEqualTheirDefinition) {
   Random random(61);
   for (int round = 0; round < 80; ++round) {

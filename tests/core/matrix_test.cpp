@@ -1,4 +1,4 @@
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
 
 #include <gmock/gmock.h>
 
@@ -7,6 +7,8 @@
 #include <limits>
 
 #include "core/contents.h"
+
+using namespace kav;
 
 namespace {
 

@@ -7,6 +7,8 @@
 
 #include "core/contents.h"
 
+using namespace kav;
+
 namespace {
 
 using testing::ElementsAre;

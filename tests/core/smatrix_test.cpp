@@ -1,10 +1,11 @@
-#include "core/Smatrix.h"
-
 #include <gmock/gmock.h>
 
 #include <vector>
 
+#include "kavoratb1c/Smatrix.h"
 #include "platform/ole.h"
+
+using namespace kav;
 
 namespace {
 

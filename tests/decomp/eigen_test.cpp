@@ -1,10 +1,12 @@
-#include "decomp/eigen.h"
+#include "kavoratb1c/decomp/eigen.h"
 
 #include <numbers>
 #include <numeric>
 
-#include "decomp/singular_values.h"
+#include "kavoratb1c/decomp/singular_values.h"
 #include "support/test_matrices.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,10 +1,13 @@
-#include "decomp/elimination.h"
+#include "kavoratb1c/decomp/elimination.h"
 
 #include <gmock/gmock.h>
 
-#include "algebra/products.h"
-#include "decomp/collinearity.h"
+#include "kavoratb1c/algebra/products.h"
+#include "kavoratb1c/decomp/collinearity.h"
+#include "kavoratb1c/decomp/inverses.h"
 #include "support/residuals.h"
+
+using namespace kav;
 
 using namespace square;
 

@@ -1,8 +1,13 @@
+// The triangular factors and what is made of them: cholesky.h, lu.h, inverse_triangular.h.
+
 #include <limits>
 
-#include "decomp/logarithms.h"
-#include "decomp/triangular.h"
+#include "kavoratb1c/decomp/cholesky.h"
+#include "kavoratb1c/decomp/inverse_triangular.h"
+#include "kavoratb1c/decomp/lu.h"
 #include "support/residuals.h"
+
+using namespace kav;
 
 using namespace square;
 
@@ -169,18 +174,4 @@ TEST(Factorizations, ClosedFormsAndSmallTables) {
   EXPECT_NEAR(M_DeterminantCleaned(three.get(), 3, second.get(), status), 18.0, 1e-13);
   // A pivot of 0.0 is no failure; the rows tie, so they change places.
   EXPECT_NEAR(M_Determinant(cells(2, 2, {1, 1, 1, 1}).get(), 2, status) * 1e20, -1.0, 1e-13);
-}
-
-TEST(Logarithms, AreTakenOfCellsThatArePresent) {
-  const auto natural = cells(2, 3, {0, -1, 1, kMissing, 100, 0.01}), decimal = copyOf(*natural);
-  natural->setMissing(0, 2, true), decimal->setMissing(0, 2, true);
-  const short none[] = {0, 0}, second[] = {0, 7};
-  matrix* a = natural.get();
-  EXPECT_TRUE(M_IsPositive(a, 2, 3, second, 0) == -1 && M_IsPositive(a, 2, 3, none, 0) == 0);
-  EXPECT_TRUE(M_IsPositive(a, 1, 3, none, 1) == -1 && M_IsPositive(a, 1, 3, none, -1) == 0);
-  EXPECT_EQ(M_IsPositive(a, 0, 3, nullptr, -1), -1);
-  M_LogMatrix(a, 2, 3, second);
-  EXPECT_TRUE(holds(*a, 2, 3, {-HUGE_VAL, -1, 0, kMissing, 100, 0.01}));
-  M_Log10Matrix(decimal.get(), 2, 3);
-  EXPECT_TRUE(holds(*decimal, 2, 3, {-HUGE_VAL, NAN, 0, kMissing, 100, -2}));
 }

@@ -1,6 +1,8 @@
+#include "kavoratb1c/decomp/factors.h"
+
 #include <gmock/gmock.h>
 
-#include "decomp/eigen.h"
+#include "kavoratb1c/decomp/eigen.h"
 #include "support/residuals.h"
 
 using square::cells;

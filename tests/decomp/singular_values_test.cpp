@@ -1,6 +1,10 @@
-#include "decomp/singular_values.h"
+#include "kavoratb1c/decomp/singular_values.h"
 
+#include "kavoratb1c/decomp/column_kernels.h"
+#include "kavoratb1c/decomp/inverses.h"
 #include "support/test_matrices.h"
+
+using namespace kav;
 
 namespace {
 
@@ -214,6 +218,22 @@ TEST(SingularValues, NoVectorsAreMadeForAJobBelowZero) {
     matrix s(4, 1, 4.75);
     EXPECT_EQ(run(*copyOf(*table), 5, 4, s, &none, &none, job), 0);
     EXPECT_TRUE(holds(s, 4, 1, cellsOf(values)) && holds(none, 5, 4, std::vector<double>(20, 4.75))) << job;
+  }
+}
+
+// Variances of 1 to 1e8 need more steps than there are, their correlations do not; the inverse does not tell.
+TEST(SingularValues, OfGradedMatricesMayNotBeFound) {
+  constexpr int n = 60;
+  for (const bool graded : {true, false}) {
+    matrix c(n, n), s(n, 1), inverse(n, n);
+    byDefinition(c, n, n, [&](int i, int j) {
+      const double scale = graded ? std::pow(10.0, 4.0 * (i + j - 2) / (n - 1)) : 1.0;
+      return (i == j ? 1.0 : 0.5) * scale;
+    });
+    int rank = 0;
+    EXPECT_EQ(M_InvGeneralized(&c, n, &inverse, 1e-9, rank), 0);
+    EXPECT_EQ(rank == n, !graded);
+    EXPECT_EQ(run(c, n, n, s, nullptr, nullptr, 0) == 0, !graded);
   }
 }
 

@@ -3,6 +3,8 @@
 #include "support/corpus.h"
 #include "support/tables.h"
 
+using namespace kav;
+
 namespace {
 
 using Cells = std::vector<double>;

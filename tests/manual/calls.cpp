@@ -4,12 +4,6 @@
 #include <type_traits>
 #include <utility>
 
-#if defined(_WIN32) && defined(__i386__)
-#define KAV_MACRO_CALL __stdcall
-#else
-#define KAV_MACRO_CALL
-#endif
-
 #include "manual/generated/prototypes.h"
 
 namespace manual {

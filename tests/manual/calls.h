@@ -8,6 +8,8 @@
 #include "platform/ole.h"
 #include "support/catalogue.h"
 
+using namespace kav;
+
 namespace manual {
 
 using Actual = std::variant<double, int, VARIANT_BOOL, BSTR, double*, int*, VARIANT_BOOL*, BSTR*>;

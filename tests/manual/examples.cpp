@@ -6,9 +6,11 @@
 #include <map>
 #include <sstream>
 
-#include "core/marker.h"
+#include "kavoratb1c/marker.h"
 #include "manual/calls.h"
 #include "manual/notation.h"
+
+using namespace kav;
 
 namespace manual {
 

@@ -7,7 +7,9 @@
 #include <limits>
 #include <sstream>
 
-#include "core/marker.h"
+#include "kavoratb1c/marker.h"
+
+using namespace kav;
 
 namespace manual {
 

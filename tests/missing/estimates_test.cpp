@@ -1,9 +1,9 @@
-#include "missing/estimates.h"
+#include "kavoratb1c/missing/estimates.h"
 
 #include <cmath>
 
-#include "stats/frequencies.h"
-#include "stats/vector_sums.h"
+#include "kavoratb1c/stats/frequencies.h"
+#include "kavoratb1c/stats/vector_sums.h"
 #include "support/tables.h"
 
 // Containers of other sizes than the blocks, flags and weights that are null, too few or of no use, columns

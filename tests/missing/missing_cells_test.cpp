@@ -1,10 +1,12 @@
-#include "missing/missing_cells.h"
+#include "kavoratb1c/missing/missing_cells.h"
 
 #include <climits>
 #include <cmath>
 
-#include "missing/estimates.h"
+#include "kavoratb1c/missing/estimates.h"
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,9 +1,13 @@
-#include "missing/missing_values.h"
+#include "kavoratb1c/missing/missing_values.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
+
+#include "kavoratb1c/marker.h"
+
+using namespace kav;
 
 TEST(MissingValues, NumbersAtOrBelowTheMarker) {
   EXPECT_EQ(kMissing, -1.79769313486231E+308);
@@ -18,31 +22,4 @@ TEST(MissingValues, NumbersAtOrBelowTheMarker) {
 TEST(MissingValues, EmptyTexts) {
   EXPECT_EQ(IsMissingValueStr(u""), -1);
   EXPECT_EQ(IsMissingValueStr(u" "), 0);
-}
-
-TEST(MissingValues, VectorsAreMadeOrRefilled) {
-  matrix* v = nullptr;
-  EXPECT_EQ(SetVectorToValue(v, 3, 2.385), 0);
-  ASSERT_NE(v, nullptr);
-  EXPECT_EQ(v->getElement(2), 2.385);
-  matrix* const made = v;
-  EXPECT_EQ(InitVectorToFalse(v, 3), 0);
-  EXPECT_EQ(v, made);
-  EXPECT_EQ(v->getElement(2), 0.0);
-  InitVectorToFalse(v, 4);
-  EXPECT_NE(v, made);
-  EXPECT_EQ(v->getNbrLines(), 4);
-  EXPECT_EQ(v->getNbrCols(), 1);
-  delete made;
-  delete v;
-}
-
-TEST(MissingValues, FlagsAreClearedUpToTheEnd) {
-  short flags[] = {-1, -1, -1};
-  EXPECT_EQ(InitVARIANTBOOLToFalse(flags, 2), 0);
-  EXPECT_EQ(flags[1], 0);
-  EXPECT_EQ(flags[2], -1);
-  EXPECT_EQ(InitVARIANTBOOLToFalse(flags, -1), 0);
-  EXPECT_EQ(flags[2], -1);
-  EXPECT_EQ(InitVARIANTBOOLToFalse(nullptr, 5), 0);
 }

@@ -1,8 +1,10 @@
-#include "missing/nearest_neighbours.h"
+#include "kavoratb1c/missing/nearest_neighbours.h"
 
 #include <cmath>
 
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,14 +1,16 @@
-#include "regression/least_squares.h"
+#include "kavoratb1c/regression/least_squares.h"
 
 #include <climits>
 #include <cmath>
 #include <fstream>
 #include <sstream>
 
-#include "algebra/covariance.h"
-#include "core/thresholds.h"
-#include "decomp/elimination.h"
+#include "kavoratb1c/algebra/covariance.h"
+#include "kavoratb1c/decomp/elimination.h"
+#include "numerics/thresholds.h"
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "regression/newton_raphson.h"
+#include "kavoratb1c/regression/newton_raphson.h"
 
 #include <climits>
 #include <cmath>

@@ -1,10 +1,13 @@
-#include "sampling/samples.h"
+#include "kavoratb1c/sampling/samples.h"
 
 #include <array>
 #include <cmath>
 #include <map>
 
+#include "kavoratb1c/sampling/indicators.h"
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

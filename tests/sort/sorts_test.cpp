@@ -1,4 +1,4 @@
-#include "sort/sorts.h"
+#include "kavoratb1c/sort/sorts.h"
 
 #include <algorithm>
 #include <climits>
@@ -8,6 +8,8 @@
 
 #include "core/contents.h"
 #include "support/corpus.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,6 +1,8 @@
-#include "stats/frequencies.h"
+#include "kavoratb1c/stats/frequencies.h"
 
 #include "support/bits.h"
+
+using namespace kav;
 
 namespace {
 

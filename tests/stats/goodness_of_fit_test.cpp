@@ -1,10 +1,12 @@
-#include "stats/goodness_of_fit.h"
+#include "kavoratb1c/stats/goodness_of_fit.h"
 
 #include <climits>
 #include <vector>
 
 #include "support/bits.h"
 #include "support/random.h"
+
+using namespace kav;
 
 namespace {
 

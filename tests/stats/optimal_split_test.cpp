@@ -1,7 +1,9 @@
-#include "stats/optimal_split.h"
+#include "kavoratb1c/stats/optimal_split.h"
 
 #include "support/bits.h"
 #include "support/random.h"
+
+using namespace kav;
 
 TEST(OptimalSplit, DiametersAndCutsEqualTheirDefinition) {
   Random random(61);

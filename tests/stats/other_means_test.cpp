@@ -1,9 +1,12 @@
+#include "kavoratb1c/stats/other_means.h"
+
 #include <vector>
 
-#include "platform/scalar.h"
-#include "stats/other_means.h"
+#include "numerics/scalar.h"
 #include "support/bits.h"
 #include "support/random.h"
+
+using namespace kav;
 
 TEST(OtherMeans, EqualTheirDefinitionBitForBit) {
   Random random(81);

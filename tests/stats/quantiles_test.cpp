@@ -1,10 +1,12 @@
-#include "stats/quantiles.h"
+#include "kavoratb1c/stats/quantiles.h"
 
 #include <algorithm>
 #include <vector>
 
 #include "support/bits.h"
 #include "support/random.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,12 +1,14 @@
-#include "stats/ranks.h"
+#include "kavoratb1c/stats/ranks.h"
 
 #include <algorithm>
 #include <climits>
 #include <set>
 
 #include "core/contents.h"
-#include "stats/vector_sums.h"
+#include "kavoratb1c/stats/vector_sums.h"
 #include "support/random.h"
+
+using namespace kav;
 
 namespace {
 
@@ -15,12 +17,6 @@ struct Results {
   int count = -7;
   ~Results() { delete ranks, delete sizes; }
 };
-
-void expectPosition(void (*find)(int, int, int*, int*), int position, int n, int i, int j) {
-  int row = -7, column = -7;
-  find(position, n, &row, &column);
-  EXPECT_EQ(std::pair(row, column), std::pair(i, j)) << position << " of " << n;
-}
 
 }  // namespace
 
@@ -86,33 +82,4 @@ TEST(Ranks, FirstOfTheTiedCountsWithTheWeightOfTheSmallest) {
   M_GetRanksTies(&x, 3, 1, nullptr, unweighted.ranks, &unweighted.count);
   EXPECT_TRUE(holds(*unweighted.ranks, 3, 1, {kMissing, kMissing, kMissing}));
   EXPECT_EQ(V_NbDistinct(&broken, 3), 3);
-}
-
-TEST(Ranks, SmallestPositiveInterval) {
-  const double times[] = {2.0, 9.5, kMissing, 4.0, 9.5, 5.25};
-  const matrix x(6, 1, times, true, 0, 0);
-  EXPECT_EQ(V_TimeIntervalSize(&x, 6, -1), 1.25);
-  EXPECT_EQ(V_TimeIntervalSize(&x, 6, 1), 5.5);
-  EXPECT_EQ(V_TimeIntervalSize(&x, 1, -1), kMissing);
-}
-
-TEST(Ranks, PositionsAreWherePackingPutsThem) {
-  for (int n = -1; n <= 12; ++n) {
-    int packed = 0, strict = 0, whole = 0;
-    for (int i = 1; i <= n; ++i) {
-      for (int j = 1; j <= i; ++j) expectPosition(V_GetPositionInMatNNp1o2, ++packed, n, i, j);
-      for (int j = 1; j < i; ++j) expectPosition(V_GetPositionInMatNNm1o2, ++strict, n, i, j);
-      for (int j = 1; j <= n; ++j) expectPosition(V_GetPositionInMatNN, ++whole, n, j, i);
-    }
-    for (const int outside : {0, INT_MIN, whole + 1}) {
-      expectPosition(V_GetPositionInMatNNp1o2, std::min(outside, packed + 1), n, 0, 0);
-      expectPosition(V_GetPositionInMatNNm1o2, std::min(outside, strict + 1), n, 0, 0);
-      expectPosition(V_GetPositionInMatNN, outside, n, 0, 0);
-    }
-  }
-  // INT_MAX = 46341 * 46340 + 41707 = 65535 * 65536 / 2 + 32767.
-  expectPosition(V_GetPositionInMatNN, INT_MAX, 46341, 41707, 46341);
-  expectPosition(V_GetPositionInMatNN, 46340 * 46340 + 1, 46340, 0, 0);
-  expectPosition(V_GetPositionInMatNNp1o2, INT_MAX, INT_MAX, 65536, 32767);
-  expectPosition(V_GetPositionInMatNNm1o2, INT_MAX - 32767, INT_MAX, 65536, 65535);
 }

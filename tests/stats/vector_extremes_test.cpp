@@ -1,10 +1,12 @@
-#include "stats/vector_extremes.h"
+#include "kavoratb1c/stats/vector_extremes.h"
 
 #include <climits>
 #include <vector>
 
 #include "support/bits.h"
 #include "support/random.h"
+
+using namespace kav;
 
 namespace {
 
@@ -73,4 +75,12 @@ TEST(VectorExtremes, NothingToChooseFrom) {
   EXPECT_TRUE(bits::equal({V_Min(&x, INT_MIN, nullptr), V_Max(&x, -1, none), V_MinAndMinPos(&x, -1, nullptr)},
                           {kMissing, kMissing, kMissing}));
   EXPECT_EQ(V_MaxInt(&x, INT_MIN, none), 0);
+}
+
+TEST(VectorExtremes, SmallestPositiveInterval) {
+  const double times[] = {2.0, 9.5, kMissing, 4.0, 9.5, 5.25};
+  const matrix x(6, 1, times, true, 0, 0);
+  EXPECT_EQ(V_TimeIntervalSize(&x, 6, -1), 1.25);
+  EXPECT_EQ(V_TimeIntervalSize(&x, 6, 1), 5.5);
+  EXPECT_EQ(V_TimeIntervalSize(&x, 1, -1), kMissing);
 }

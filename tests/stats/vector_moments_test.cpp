@@ -1,4 +1,4 @@
-#include "stats/vector_moments.h"
+#include "kavoratb1c/stats/vector_moments.h"
 
 #include <climits>
 #include <fstream>
@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/scalar.h"
+#include "numerics/scalar.h"
 #include "support/bits.h"
 #include "support/random.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "stats/vector_sums.h"
+#include "kavoratb1c/stats/vector_sums.h"
 
 #include <climits>
 #include <limits>
@@ -6,6 +6,8 @@
 
 #include "support/bits.h"
 #include "support/random.h"
+
+using namespace kav;
 
 namespace {
 

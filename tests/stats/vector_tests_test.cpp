@@ -1,4 +1,4 @@
-#include "stats/vector_tests.h"
+#include "kavoratb1c/stats/vector_tests.h"
 
 #include <gtest/gtest.h>
 
@@ -6,6 +6,8 @@
 #include <cmath>
 #include <string>
 #include <vector>
+
+using namespace kav;
 
 TEST(VectorTests, ConstantMeansExactlyEqual) {
   const double cells[] = {2.385, 2.385, std::nextafter(2.385, 3.0)}, zeros[] = {0.0, -0.0},

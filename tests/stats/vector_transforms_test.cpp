@@ -1,12 +1,14 @@
-#include "stats/vector_transforms.h"
+#include "kavoratb1c/stats/vector_transforms.h"
 
 #include <memory>
 #include <vector>
 
-#include "stats/vector_moments.h"
-#include "stats/vector_sums.h"
+#include "kavoratb1c/stats/vector_moments.h"
+#include "kavoratb1c/stats/vector_sums.h"
 #include "support/bits.h"
 #include "support/random.h"
+
+using namespace kav;
 
 namespace {
 

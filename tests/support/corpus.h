@@ -7,8 +7,10 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/matrix.h"
+#include "kavoratb1c/matrix.h"
 #include "support/random.h"
+
+using namespace kav;
 
 /// FNV-1a over the bits of doubles; every NaN counts the same.
 class BitHash {

@@ -8,26 +8,29 @@
 #include <map>
 #include <string>
 
-#include "algebra/covariance.h"
-#include "algebra/products.h"
-#include "algebra/standardization.h"
-#include "decomp/eigen.h"
-#include "decomp/elimination.h"
-#include "decomp/logarithms.h"
-#include "decomp/singular_values.h"
-#include "decomp/triangular.h"
-#include "missing/estimates.h"
-#include "missing/nearest_neighbours.h"
-#include "sort/sorts.h"
-#include "stats/other_means.h"
-#include "stats/quantiles.h"
-#include "stats/ranks.h"
-#include "stats/vector_extremes.h"
-#include "stats/vector_moments.h"
-#include "stats/vector_sums.h"
-#include "stats/vector_transforms.h"
+#include "kavoratb1c/algebra/covariance.h"
+#include "kavoratb1c/algebra/logarithms.h"
+#include "kavoratb1c/algebra/products.h"
+#include "kavoratb1c/algebra/standardization.h"
+#include "kavoratb1c/decomp/cholesky.h"
+#include "kavoratb1c/decomp/eigen.h"
+#include "kavoratb1c/decomp/elimination.h"
+#include "kavoratb1c/decomp/lu.h"
+#include "kavoratb1c/decomp/singular_values.h"
+#include "kavoratb1c/missing/estimates.h"
+#include "kavoratb1c/missing/nearest_neighbours.h"
+#include "kavoratb1c/sort/sorts.h"
+#include "kavoratb1c/stats/other_means.h"
+#include "kavoratb1c/stats/quantiles.h"
+#include "kavoratb1c/stats/ranks.h"
+#include "kavoratb1c/stats/vector_extremes.h"
+#include "kavoratb1c/stats/vector_moments.h"
+#include "kavoratb1c/stats/vector_sums.h"
+#include "kavoratb1c/stats/vector_transforms.h"
+#include "kavoratb1c/tables/copies.h"
 #include "support/tables.h"
-#include "tables/copies.h"
+
+using namespace kav;
 
 namespace {
 

@@ -9,6 +9,8 @@
 #include "core/contents.h"
 #include "support/random.h"
 
+using namespace kav;
+
 /// Cells of high entropy, among them everything that a macro array may hold, each kind once in oneIn cells.
 inline std::unique_ptr<matrix> randomTable(Random& random, int rows, int columns, int oneIn) {
   auto m = std::make_unique<matrix>(rows, columns, 0.0);

@@ -3,8 +3,10 @@
 
 #include <cmath>
 
-#include "core/thresholds.h"
+#include "numerics/thresholds.h"
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace test_matrices {
 

@@ -1,10 +1,13 @@
-#include "tables/blocks.h"
+#include "kavoratb1c/tables/blocks.h"
 
 #include <climits>
 #include <cmath>
 
+#include "kavoratb1c/sampling/indicators.h"
+#include "kavoratb1c/tables/single_columns.h"
 #include "support/tables.h"
-#include "tables/single_columns.h"
+
+using namespace kav;
 
 namespace {
 
@@ -139,15 +142,4 @@ TEST(Blocks, StringsThatAreNotThereAreEmpty) {
   EXPECT_EQ(firstOf(held.cells, 3), (Texts{label, u"", u""}));
   EXPECT_EQ(firstOf(resized->cells, 3), (Texts{u"", u"b", u""}));
   EXPECT_EQ(firstOf(x->cells, 3), (Texts{u"b", u"", u""}));
-}
-
-TEST(Blocks, ConstantColumns) {
-  matrix a(2, 2, 4.75);
-  for (const auto& [x, y, first] :
-       {std::tuple(1.5, 1.0, 2), {NAN, NAN, 2}, {kMissing, kMissing, 1}, {0.0, -0.0, 1}}) {
-    a.values[0] = x, a.values[1] = y;
-    EXPECT_EQ(M_IsColConstant(&a, 2, 2), first);
-    EXPECT_EQ(M_IsColConstant(&a, 2, 1), first % 2);
-  }
-  EXPECT_EQ(M_IsColConstant(&a, INT_MAX, 0) + M_IsColConstant(&a, 0, INT_MAX), 0);
 }

@@ -1,8 +1,10 @@
-#include "tables/categories.h"
+#include "kavoratb1c/tables/categories.h"
 
 #include <climits>
 
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,10 +1,13 @@
-#include "tables/copies.h"
+#include "kavoratb1c/tables/copies.h"
 
 #include <climits>
 #include <memory>
 #include <vector>
 
+#include "kavoratb1c/tables/fills.h"
 #include "support/bits.h"
+
+using namespace kav;
 
 namespace {
 

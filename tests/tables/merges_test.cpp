@@ -1,6 +1,8 @@
-#include "tables/merges.h"
+#include "kavoratb1c/tables/merges.h"
 
 #include "support/tables.h"
+
+using namespace kav;
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Hosts that have changed the floating-point control state get the same bits, and their state back.
 
 #include <gtest/gtest.h>
-#include <xmmintrin.h>
 
 #include <cmath>
+#include <xmmintrin.h>
 
 #include "windows/any_entry.h"
 

@@ -5,6 +5,8 @@
 #include "bridge/guard.h"
 #include "platform/calling.h"
 
+using namespace kav;
+
 extern "C" {
 
 KAV_ENTRY double KAV_CALL VB_V_Sum(double* iVector, int n, VARIANT_BOOL* iMissing, double* w) noexcept {

@@ -3,7 +3,7 @@
 
 #include "kernels/isa/functions.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 namespace {
 
@@ -95,4 +95,4 @@ void columnMoments(const ColumnRows& table) {
   if (column < table.columns) addTo<1>(table, column);
 }
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

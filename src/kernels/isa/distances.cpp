@@ -3,7 +3,7 @@
 
 #include "kernels/isa/functions.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 namespace {
 
@@ -50,4 +50,4 @@ bool distances(const Distances& d) {
   return true;
 }
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

@@ -3,7 +3,7 @@
 
 #include "kernels/isa/functions.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 namespace {
 
@@ -77,4 +77,4 @@ void sweep(const Sweep& s) {
   }
 }
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

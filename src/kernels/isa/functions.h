@@ -4,7 +4,7 @@
 #include "kernels/isa/vectors.h"
 #include "kernels/kernels.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 void product(const Product& p, double* scratch);
 void transpose(const Transposition& t);
@@ -38,4 +38,4 @@ constexpr Index kDistanceVectors = KAV_VECTOR_BYTES == 64 ? 2 : 4;
 
 }  // namespace
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

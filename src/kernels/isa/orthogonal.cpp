@@ -3,7 +3,7 @@
 
 #include "kernels/isa/functions.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 namespace {
 
@@ -232,4 +232,4 @@ void updateColumns(const ColumnUpdate& u) {
   }
 }
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

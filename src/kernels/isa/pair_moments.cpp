@@ -3,7 +3,7 @@
 
 #include "kernels/isa/functions.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 namespace {
 
@@ -55,4 +55,4 @@ void pairMoments(const PairRows& rows, std::ptrdiff_t a, std::ptrdiff_t b, const
   }
 }
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

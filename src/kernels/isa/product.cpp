@@ -4,7 +4,7 @@
 #include "kernels/isa/functions.h"
 #include "kernels/tiles.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 namespace {
 
@@ -212,4 +212,4 @@ void product(const Product& p, double* scratch) {
   }
 }
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

@@ -2,7 +2,7 @@
 
 #include "kernels/isa/functions.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 extern const Table table;
 const Table table = {KAV_ISA_NAME,
@@ -26,4 +26,4 @@ const Table table = {KAV_ISA_NAME,
                      static_cast<int>(kDistanceVectors* kLanes),
                      distances};
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

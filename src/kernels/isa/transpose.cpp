@@ -4,7 +4,7 @@
 
 #include "kernels/isa/functions.h"
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 namespace {
 
@@ -77,4 +77,4 @@ void transpose(const Transposition& t) {
   transposeCells(t, 0, t.rows, end, t.columns);
 }
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

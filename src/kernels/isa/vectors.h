@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace kernels::KAV_ISA {
+namespace kav::kernels::KAV_ISA {
 
 namespace {
 
@@ -57,4 +57,4 @@ typedef double Narrow __attribute__((vector_size(kNarrowLanes * sizeof(double)),
 
 }  // namespace
 
-}  // namespace kernels::KAV_ISA
+}  // namespace kav::kernels::KAV_ISA

@@ -4,6 +4,14 @@
 
 #include "platform/ole.h"
 
+#if defined(_WIN32) && defined(__i386__)
+#define KAV_MACRO_CALL __stdcall
+#else
+#define KAV_MACRO_CALL
+#endif
+
+using namespace kav;
+
 extern "C" {
 double KAV_MACRO_CALL VB_V_Sum(double* iVector, int n, VARIANT_BOOL* iMissing, double* w);
 void KAV_MACRO_CALL VB_V_MinMax(double* iVector, int n, double* VMin, double* VMax, VARIANT_BOOL* iMissing);

@@ -1,0 +1,46 @@
+// A call of any entry, with arguments that fit its declared types: tests that hold for every entry need no
+// list of their own.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "manual/calls.h"
+
+/// One call: sizes are 3, options on, numbers differ from cell to cell, arrays have room for 3 x 3 x 3 cells.
+class AnyCall {
+ public:
+  explicit AnyCall(const CatalogueEntry& entry);
+  AnyCall(const AnyCall&) = delete;
+  ~AnyCall();
+
+  /// Calls the entry.
+  ///
+  /// @param nullParameter  the parameter, 0-based, that null is passed for; -1 for none
+  /// @return the result's bits; a string's characters
+  std::string run(int nullParameter = -1);
+
+  /// What the array of a parameter holds: bytes, or characters and where a slot is new; empty for others.
+  std::string contents(std::size_t parameter) const;
+
+  bool isArray(std::size_t parameter) const { return entry_.parameters[parameter].type.back() == '*'; }
+
+  /// As run() gives it for a call that fails.
+  std::string failure() const;
+
+ private:
+  static constexpr std::size_t kCells = 27;
+
+  struct Array {
+    std::vector<double> numbers;
+    std::vector<int> ints;
+    std::vector<kav::VARIANT_BOOL> flags;
+    std::vector<kav::BSTR> texts;
+  };
+
+  const CatalogueEntry& entry_;
+  std::deque<Array> arrays_;  ///< one for each parameter
+  std::vector<manual::Actual> arguments_;
+  std::vector<kav::BSTR> owned_;
+};
