@@ -1,11 +1,12 @@
 #include "ratios.h"
 
-void enterAssembly();
+void enterAlgebra();
 void enterContainers();
 void enterDecompositions();
 void enterMissing();
 void enterProducts();
 void enterSorting();
+void enterRegressions();
 void enterTables();
 void enterVectorStatistics();
 void enterVectorSums();
@@ -17,8 +18,9 @@ int main(int argc, char** argv) {
   enterSorting();
   enterProducts();
   enterDecompositions();
+  enterAlgebra();
   enterTables();
-  enterAssembly();
+  enterRegressions();
   enterMissing();
   return runContests(argc, argv);
 }

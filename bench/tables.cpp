@@ -1,181 +1,105 @@
-// Statistics, sums, extremes, transposes and sums of tables; what the entries add to the workers.
+// Tables put together and taken apart, labels turned into columns.
 
-#include <Eigen/Core>
-#include <algorithm>
-#include <cmath>
+#include <cstdint>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "data.h"
-#include "kavoratb1c/algebra/covariance.h"
-#include "kavoratb1c/algebra/elementwise.h"
-#include "kavoratb1c/algebra/products.h"
-#include "kavoratb1c/algebra/standardization.h"
+#include "kavoratb1c/tables/blocks.h"
+#include "kavoratb1c/tables/categories.h"
+#include "kavoratb1c/tables/merges.h"
 #include "peers.h"
 #include "plain_forms.h"
-#include "platform/calling.h"
 #include "ratios.h"
 
 using namespace kav;
 
-extern "C" {
-int KAV_CALL VB_M_ProductAB(double* iAMat, int n, int p, double* iBMat, int m, double* oCMat);
-int KAV_CALL VB_M_Transpose(double* iAMat, int n, int p, double* oTransMat);
-void KAV_CALL VB_M_ScalarsA(double* iAMat, int n, int p, double s, double* osAMat);
-void KAV_CALL VB_M_Sums1As2B(double* iAMat, int n, int p, double* iBMat, double s1, double S2, double* oCMat);
-void KAV_CALL VB_M_Standardize2(double* ioMat, int n, int p, short Unbiased);
-int KAV_CALL VB_M_CovCorr(double* iMat, int n, int p, double* CovCorr, short Correlations, short* iMissing,
-                          double* w, short Unbiased, short BiasIsOne);
-}
-
 namespace {
 
-void copyTable(Data& d) { d.copyInB(); }
+void copyTable(Data& d) { std::copy_n(d.a->values, d.cells(), d.b->values); }
 
-/// A work that reads the table once, beside a copy of it.
+/// The container that a worker made, used again by the next call.
+struct Result {
+  ~Result() { delete made; }
+
+  matrix* made = nullptr;
+};
+
+/// A worker that moves cells, once(data, result), beside a copy of as many.
 template <class Once>
 void enterBesideCopy(const std::string& work, const std::shared_ptr<Data>& data, Once once) {
-  contest(work, "library", keeping(data, once));
+  const auto result = std::make_shared<Result>();
+  contest(work, "library", keeping(data, [=](Data& d) { once(d, result->made); }));
   contest(work, "a copy of the table", keeping(data, copyTable));
 }
 
-void enterColumnStatistics(const std::shared_ptr<Data>& data) {
-  const auto weights = std::make_shared<matrix>(data->n, 1, 1.0);
-  const std::string work = "M_MeanStDev of 1,000,000 x 10";
-  contest(work, "library", keeping(data, [weights](Data& d) {
-            matrix *means = nullptr, *stdevs = new matrix(d.p, 1);
-            M_MeanStDev(d.a, d.n, d.p, means, stdevs, nullptr, weights.get(), kTrue, kTrue, kFalse);
-            delete means;
-            delete stdevs;
-          }));
-  contest(work, "Eigen, SSE2, two passes", keeping(data, [](Data& d) {
-            const Eigen::RowVectorXd means = d.mapA().colwise().mean();
-            d.result = ((d.mapA().rowwise() - means).array().square().colwise().sum() / (d.n - 1)).sqrt();
-          }));
-  peers::enterArmadilloStatistics(work, data->a->values, data->n, data->p);
-  // What is standardized can be standardized again at the same cost.
-  const std::string standardization = "M_Standardize2 of 1,000,000 x 10";
-  contest(standardization, "library", keeping(data, [](Data& d) { M_Standardize2(d.b, d.n, d.p, kTrue); }));
-  contest(standardization, "Eigen, SSE2, three passes", keeping(data, [](Data& d) {
-            Eigen::Map<Eigen::MatrixXd> table(d.b->values, d.n, d.p);
-            const Eigen::RowVectorXd means = table.colwise().mean();
-            table.rowwise() -= means;
-            const Eigen::RowVectorXd deviations = (table.array().square().colwise().sum() / (d.n - 1)).sqrt();
-            table.array().rowwise() /= deviations.array();
-          }));
-  peers::enterArmadilloStandardization(standardization, data->b->values, data->n, data->p);
-}
-
-void enterColumnSums(const std::shared_ptr<Data>& data) {
+void enterMoves() {
+  const auto data = std::make_shared<Data>(1000000, 10);
   const std::string size = " of 1,000,000 x 10";
-  enterBesideCopy("M_SumByCols" + size, data, [](Data& d) {
-    matrix sums(d.p, 1);
-    M_SumByCols(d.a, d.n, d.p, &sums);
-  });
-  const auto sums = std::make_shared<matrix>(data->n, 1);
-  enterBesideCopy("M_SumByRows" + size, data, [sums](Data& d) { M_SumByRows(d.a, d.n, d.p, sums.get()); });
-  enterBesideCopy("M_Min" + size, data, [](Data& d) {
-    matrix least(d.p, 1);
-    M_Min(d.a, d.n, d.p, &least);
-  });
-  enterBesideCopy("M_Max" + size, data, [](Data& d) {
-    matrix most(d.p, 1);
-    M_Max(d.a, d.n, d.p, &most);
-  });
-  const auto none = std::make_shared<std::vector<short>>(static_cast<std::size_t>(data->n));
-  enterBesideCopy("M_MinMax" + size, data, [none](Data& d) {
-    matrix least(d.p, 1), most(d.p, 1);
-    M_MinMax(d.a, d.n, d.p, &least, &most, none->data(), kFalse);
+  enterBesideCopy("HMergeTables" + size + " in halves", data,
+                  [](Data& d, matrix*& c) { HMergeTables(d.a, d.n, 5, d.b, d.n, 5, c); });
+  enterBesideCopy("VMergeTables" + size + " in halves", data,
+                  [](Data& d, matrix*& c) { VMergeTables(d.a, d.n / 2, d.p, d.b, d.n / 2, d.p, c); });
+  enterBesideCopy("M_CopyBlock" + size, data,
+                  [](Data& d, matrix*& c) { M_CopyBlock(d.a, d.n, d.p, 1, d.n, 1, d.p, c); });
+  enterBesideCopy("M_RemoveRow" + size, data,
+                  [](Data& d, matrix*& c) { M_RemoveRow(d.a, d.n, d.p, d.n / 3, c); });
+  const auto list = std::make_shared<std::vector<int>>();
+  for (int i = 5; i < data->n; i += 10) list->push_back(i);
+  enterBesideCopy("M_RemoveRowsInList" + size + ", a tenth", data, [list](Data& d, matrix*& c) {
+    M_RemoveRowsInList(d.a, d.n, d.p, list->data(), static_cast<int>(list->size()), c);
   });
 }
 
-void covarianceByLibrary(Data& d, const matrix* weights) {
-  M_CovCorr(d.a, d.n, d.p, d.c, 0, nullptr, weights, kTrue, kTrue);
+/// Labels of a few lengths, `kinds` different ones.
+std::shared_ptr<Smatrix> labels(int n, int p, int kinds) {
+  auto table = std::make_shared<Smatrix>(n, p);
+  for (int k = 0; k < n * p; ++k) {
+    const std::string text = "category " + std::to_string(std::int64_t{k} * 7919 % kinds);
+    table->setElement(k, std::u16string(text.begin(), text.end()));
+  }
+  return table;
 }
 
-void covarianceByPlainLoops(Data& d, const matrix* weights) {
-  d.result.resize(d.p, d.p);
-  plain::covariances(d.a->values, d.a->missing, weights->values, d.n, d.p, d.result.data());
+void enterTexts() {
+  const auto left = labels(100000, 5, 1000), right = labels(100000, 5, 1000);
+  const auto merged = std::make_shared<Smatrix>(100000, 10);
+  const std::string work = "HMergeTables of strings, 100,000 x 10 in halves";
+  contest(work, "library", [=] {
+    Smatrix* c = merged.get();
+    HMergeTables(left.get(), 100000, 5, right.get(), 100000, 5, c);
+  });
+  contest(work, "strings assigned one by one", [=] {
+    for (int k = 0; k < 500000; ++k) {
+      merged->cells[k] = left->cells[k];
+      merged->cells[500000 + k] = right->cells[k];
+    }
+  });
 }
 
-void enterCovariances() {
-  const auto data = std::make_shared<Data>(100000, 20);
-  const auto weights = std::make_shared<matrix>(data->n, 1, 1.0);
-  const auto byLibrary = [weights](Data& d) { covarianceByLibrary(d, weights.get()); };
-  const auto byPlainLoops = [weights](Data& d) { covarianceByPlainLoops(d, weights.get()); };
-  const std::string work = "M_CovCorr of 100,000 x 20";
-  contest(work, "library", keeping(data, byLibrary));
-  contest(work, "plain loops over pairs", keeping(data, byPlainLoops));
-  contest(work, "Eigen, SSE2, centred product", keeping(data, [](Data& d) {
-            const Eigen::MatrixXd centred = d.mapA().rowwise() - d.mapA().colwise().mean();
-            d.result.noalias() = centred.transpose() * centred / (d.n - 1);
-          }));
-  peers::enterArmadilloCovariance(work, data->a->values, data->n, data->p);
-
-  const auto withGaps = std::make_shared<Data>(data->n, data->p);
-  Random random(20);
-  for (std::ptrdiff_t k = 0; k < withGaps->cells(); ++k) withGaps->a->missing[k] = random.below(20) == 0;
-  contest(work + ", 5 % missing", "library", keeping(withGaps, byLibrary));
-  contest(work + ", 5 % missing", "plain loops over pairs", keeping(withGaps, byPlainLoops));
-}
-
-void enterElements(const std::shared_ptr<Data>& data) {
-  const std::string size = " of 1000 x 1000";
-  enterBesideCopy("M_Transpose" + size, data, [](Data& d) { M_Transpose(d.a, d.n, d.p, d.c); });
-  contest("M_Transpose" + size, "Eigen", keeping(data, [](Data& d) { d.result = d.mapA().transpose(); }));
-  enterBesideCopy("M_ScalarsA" + size, data, [](Data& d) { M_ScalarsA(d.a, d.n, d.p, 2.385, d.b); });
-  enterBesideCopy("M_ScalarsTrA" + size, data, [](Data& d) { M_ScalarsTrA(d.a, d.n, d.p, 2.385, d.c); });
-  enterBesideCopy("M_APlusVal" + size, data, [](Data& d) { M_APlusVal(d.a, d.n, d.p, 2.385, d.c); });
-  enterBesideCopy("M_Sums1As2B" + size, data,
-                  [](Data& d) { M_Sums1As2B(d.a, d.n, d.p, d.b, 2.385, -0.5, d.c); });
-}
-
-/// An entry beside the worker that it calls.
-template <class Entry, class Worker>
-void enterEntry(const std::string& work, const std::shared_ptr<Data>& data, Entry entry, Worker worker) {
-  contest(work + " of 1000 x 1000", "library", keeping(data, [entry](Data& d) {
-            d.result.resize(d.n, d.n);
-            entry(d);
-          }));
-  contest(work + " of 1000 x 1000", "the worker alone", keeping(data, worker));
-}
-
-void enterEntries(const std::shared_ptr<Data>& data) {
-  enterEntry(
-      "VB_M_ProductAB", data,
-      [](Data& d) { VB_M_ProductAB(d.a->values, d.n, d.n, d.b->values, d.n, d.result.data()); },
-      [](Data& d) { M_ProductAB(d.a, d.n, d.n, d.b, d.n, d.c); });
-  enterEntry(
-      "VB_M_Transpose", data, [](Data& d) { VB_M_Transpose(d.a->values, d.n, d.n, d.result.data()); },
-      [](Data& d) { M_Transpose(d.a, d.n, d.n, d.c); });
-  enterEntry(
-      "VB_M_ScalarsA", data, [](Data& d) { VB_M_ScalarsA(d.a->values, d.n, d.n, 2.385, d.result.data()); },
-      [](Data& d) { M_ScalarsA(d.a, d.n, d.n, 2.385, d.b); });
-  enterEntry(
-      "VB_M_Sums1As2B", data,
-      [](Data& d) { VB_M_Sums1As2B(d.a->values, d.n, d.n, d.b->values, 2.385, -0.5, d.result.data()); },
-      [](Data& d) { M_Sums1As2B(d.a, d.n, d.n, d.b, 2.385, -0.5, d.c); });
-  enterEntry(
-      "VB_M_Standardize2", data, [](Data& d) { VB_M_Standardize2(d.b->values, d.n, d.n, kTrue); },
-      [](Data& d) { M_Standardize2(d.b, d.n, d.n, kTrue); });
-  // Flags and weights are optional.
-  enterEntry(
-      "VB_M_CovCorr", data,
-      [](Data& d) {
-        VB_M_CovCorr(d.a->values, d.n, d.n, d.result.data(), kFalse, nullptr, nullptr, kTrue, kTrue);
-      },
-      [](Data& d) { covarianceByLibrary(d, nullptr); });
+/// Indicator columns of 1,000 categories, each row's share of the time.
+void enterIndicators() {
+  const auto categories = labels(1000, 1, 1000);
+  for (int n : {100, 1000, 10000}) {
+    const auto column = labels(n, 1, 1000);
+    const auto table = std::make_shared<matrix>(n, 1000);
+    contest(
+        "BuildDisjunctiveTable, each of " + withThousands(n) + " rows, 1,000 categories", "library",
+        [=] {
+          const int counts[] = {1000};
+          matrix* c = table.get();
+          BuildDisjunctiveTable(column.get(), n, 1, counts, categories.get(), 1000, c, 0, 0);
+        },
+        n);
+  }
 }
 
 }  // namespace
 
 void enterTables() {
-  openTable("Statistics and transposes of tables");
-  const auto tall = std::make_shared<Data>(1000000, 10);
-  enterColumnStatistics(tall);
-  enterColumnSums(tall);
-  enterCovariances();
-  const auto square = std::make_shared<Data>(1000, 1000);
-  enterElements(square);
-  enterEntries(square);
+  openTable("Tables put together");
+  enterMoves();
+  enterTexts();
+  enterIndicators();
 }

@@ -2,7 +2,7 @@
 
 add_library(kav_compile INTERFACE)
 
-target_include_directories(kav_compile INTERFACE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
+target_include_directories(kav_compile INTERFACE ${PROJECT_SOURCE_DIR}/include)
 
 target_compile_options(kav_compile INTERFACE
   -Wall -Wextra -Wconversion -Wshadow

@@ -3,6 +3,12 @@
 //
 //     principal_components mtcars.csv
 
+#include <kavoratb1c/algebra/covariance.h>
+#include <kavoratb1c/algebra/products.h>
+#include <kavoratb1c/algebra/standardization.h>
+#include <kavoratb1c/decomp/eigen.h>
+#include <kavoratb1c/decomp/factors.h>
+#include <kavoratb1c/matrix.h>
 #include <algorithm>
 #include <cstdio>
 #include <exception>
@@ -10,12 +16,6 @@
 
 #include "components_table.h"
 #include "csv_table.h"
-#include "kavoratb1c/algebra/covariance.h"
-#include "kavoratb1c/algebra/products.h"
-#include "kavoratb1c/algebra/standardization.h"
-#include "kavoratb1c/decomp/eigen.h"
-#include "kavoratb1c/decomp/factors.h"
-#include "kavoratb1c/matrix.h"
 
 namespace {
 

@@ -2,6 +2,10 @@
 //
 //     regression FOLDER    with longley.csv, longley_certified.csv and mtcars.csv
 
+#include <kavoratb1c/algebra/covariance.h>
+#include <kavoratb1c/decomp/collinearity.h>
+#include <kavoratb1c/regression/least_squares.h>
+#include <kavoratb1c/regression/newton_raphson.h>
 #include <algorithm>
 #include <cstdio>
 #include <exception>
@@ -9,10 +13,6 @@
 
 #include "coefficients_table.h"
 #include "csv_table.h"
-#include "kavoratb1c/algebra/covariance.h"
-#include "kavoratb1c/decomp/collinearity.h"
-#include "kavoratb1c/regression/least_squares.h"
-#include "kavoratb1c/regression/newton_raphson.h"
 #include "logistic.h"
 
 namespace {

@@ -1,9 +1,8 @@
 // A native program: the weighted mean of a column with a missing cell.
 
+#include <kavoratb1c/matrix.h>
+#include <kavoratb1c/stats/vector_sums.h>
 #include <cstdio>
-
-#include "kavoratb1c/matrix.h"
-#include "kavoratb1c/stats/vector_sums.h"
 
 int main() {
   const double prices[] = {12.5, kav::kMissing, 11.0, 14.25};

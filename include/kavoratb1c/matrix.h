@@ -31,10 +31,10 @@ class KAV_API matrix {
   double* values;  ///< nX*pX cells, column-major
   bool* missing;   ///< nX*pX flags; a flagged cell built from an array holds 0.0
   int normalized;  ///< 1 while normu and norsigma are valid
-  int descValid;  ///< 1 while descmu, descsigma and weightcorr are those of descMode; element writes clear it
-  int* counts;    ///< pX; cells of the column that were not flagged at construction
-  short descMode;     ///< variance mode of descmu and descsigma; -1 selects the unbiased denominator
-  double* normu;      ///< pX; column centres of the normalization
+  int descValid;   ///< 1 while descmu, descsigma, weightcorr are valid for descMode; element writes clear it
+  int* counts;     ///< pX; cells of the column that were not flagged at construction
+  short descMode;  ///< variance mode of descmu and descsigma; -1 selects the unbiased denominator
+  double* normu;   ///< pX; column centres of the normalization
   double* norsigma;   ///< pX; column scales of the normalization
   double* descmu;     ///< pX; weighted column means
   double* descsigma;  ///< pX; weighted column standard deviations
@@ -75,8 +75,8 @@ class KAV_API matrix {
   ///
   /// Cells are copied by linear index: with fewer rows they are the first rows of src only when src has one
   /// column. Cells beyond those of src hold -1.0. A cell that is missing in src, flagged or holding the
-  /// marker, is flagged. Counts, denominators and sumOfWeights are copied unchanged, as is the normalization
-  /// when src has one; rows beyond those of src have the weight 1.0.
+  /// marker, is flagged. Counts, denominators, row weights and sumOfWeights are copied unchanged, as is the
+  /// normalization when src has one; rows beyond those of src have the weight 1.0.
   ///
   /// @param src  must not be null
   matrix(int rows, const matrix* src);
@@ -126,7 +126,7 @@ class KAV_API matrix {
   double getNorSigma(int j) const;
 
   /// The variance denominator of a column; 1.0 when it is 0.0, so that it can always be divided
-  /// by; -1.0 outside.
+  /// by. -1.0 outside.
   double getWeightcorr(int j) const;
 
   // Column statistics. Rows are weighted; missing cells are left out.
@@ -146,8 +146,8 @@ class KAV_API matrix {
   /// @return 0
   int calcDescStat(short mode);
 
-  /// Standardizes every column in place by its mean and its unbiased standard deviation (denominator W -
-  /// W/c), stores them in normu and norsigma, and the denominator in weightcorr.
+  /// Standardizes every column in place by its mean and its unbiased standard deviation (denominator W - W/c,
+  /// as in calcDescStat), stores them in normu and norsigma, and the denominator in weightcorr.
   ///
   /// A column that does not vary is only centred. Flagged cells remain unchanged; an unflagged marker is
   /// transformed like any number.

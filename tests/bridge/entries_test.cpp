@@ -5,7 +5,6 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <regex>
 
 #include "manual/generated/prototypes.h"
 #include "support/any_call.h"
@@ -17,14 +16,16 @@ using Key = std::pair<std::string, std::string>;
 
 /// What the reference says that the array of a parameter holds, by entry and parameter.
 std::map<Key, std::string> meanings() {
-  const std::regex row("\\| `(\\w+)` \\| [^|]* \\|(.*)\\|");
   std::map<Key, std::string> found;
   for (const auto& page : std::filesystem::directory_iterator(KAV_DOCS "/reference")) {
     std::ifstream file(page.path());
-    std::smatch match;
     for (std::string line, entry; std::getline(file, line);) {
       if (line.rfind("### ", 0) == 0) entry = line.substr(4);
-      if (std::regex_match(line, match, row)) found[{entry, match[1]}] = match[2];
+      // | `name` | how it is passed | what it holds |
+      if (line.rfind("| `", 0) != 0) continue;
+      const std::size_t end = line.find('`', 3), second = line.find('|', end),
+                        third = line.find('|', second + 1);
+      found[{entry, line.substr(3, end - 3)}] = line.substr(third + 1);
     }
   }
   return found;

@@ -15,7 +15,8 @@ std::string bytesOf(const T* cells, std::size_t count) {
 }
 
 std::string charactersOf(BSTR text) {
-  return text == nullptr ? "(null)" : std::string(reinterpret_cast<const char*>(text), SysStringByteLen(text));
+  return text == nullptr ? "(null)"
+                         : std::string(reinterpret_cast<const char*>(text), SysStringByteLen(text));
 }
 
 std::string textOf(const manual::Result& result) {

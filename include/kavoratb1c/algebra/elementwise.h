@@ -16,8 +16,8 @@
 #include "kavoratb1c/export.h"
 #include "kavoratb1c/matrix.h"
 
-/// C = s A, n x p (caller's); A = s A (in place); C = s A', p x n (refilled). In place the container takes the
-/// shape n x p; one that was not built with that many cells is left unchanged.
+/// C = s A, n x p (caller's); A = s A (in place); C = s A', p x n (refilled). In place the container takes
+/// the shape n x p; one that was not built with that many cells is left unchanged.
 KAV_API void M_ScalarsA(const matrix* a, int n, int p, double s, matrix* c);
 KAV_API void M_ScalarsA2(matrix*& a, int n, int p, double s);
 KAV_API void M_ScalarsTrA(const matrix* a, int n, int p, double s, matrix*& c);
@@ -34,8 +34,8 @@ KAV_API void M_ProductByElement(const matrix* a, int n, int p, const matrix* b, 
 /// extents all cells are squared but those of the first column and the first cell of the second.
 KAV_API void M_Square(matrix* a, int n, int p);
 
-/// C = A', p x n (refilled), and A = A' (in place): the container takes the shape p x n; one that was not built
-/// with that many cells is left unchanged.
+/// C = A', p x n (refilled), and A = A' (in place): the container takes the shape p x n; one that was not
+/// built with that many cells is left unchanged.
 /// @return 0
 KAV_API int M_Transpose(const matrix* a, int n, int p, matrix*& c);
 KAV_API int M_Transpose2(matrix*& a, int n, int p);
@@ -52,8 +52,8 @@ KAV_API void M_SquaredColumns(const matrix* a, int n, int p, matrix* w);
 KAV_API double M_Trace(const matrix* a, int n);
 
 /// Largest and smallest cell of each column, p cells (caller's). Cells that hold the marker are passed over,
-/// flags are ignored; the marker where no cell is left. If the first cell used is NaN the result is NaN; later
-/// NaN are passed over.
+/// flags are ignored; the marker where no cell is left. If the first cell used is NaN the result is NaN;
+/// later NaN are passed over.
 KAV_API void M_Max(const matrix* a, int n, int p, matrix* w);
 KAV_API void M_Min(const matrix* a, int n, int p, matrix* w);
 

@@ -58,8 +58,8 @@ KAV_API void M_ProductDiagV1ADiagV2(const matrix* x, int n, const matrix* a, int
 KAV_API void M_ProductABTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c);
 KAV_API void M_ProductTrABA(const matrix* a, int n, int p, const matrix* b, matrix*& c);
 
-/// The same products with the inverse of B in place of B. The inverse is that of matrix::inverse1, which takes
-/// pivots up to 1e-8 in absolute value as zero; a singular B gives an inverse of zeros.
+/// The same products with the inverse of B in place of B. The inverse is that of matrix::inverse1, which
+/// takes pivots up to 1e-8 in absolute value as zero; a singular B gives an inverse of zeros.
 KAV_API void M_ProductAinvBTrA(const matrix* a, int n, int p, const matrix* b, matrix*& c);
 KAV_API void M_ProductTrAinvBA(const matrix* a, int n, int p, const matrix* b, matrix*& c);
 
@@ -69,8 +69,7 @@ KAV_API int M_ProductBV(const matrix* b, int n, int p, const matrix* v, matrix* 
 /// w = B'.v: v n cells, B n x q, w q x 1 (refilled).
 KAV_API void M_ProductVB(const matrix* v, int n, const matrix* b, int q, matrix*& w);
 
-/// v'.(B.v), x'.(B.y), and v'.(inverse of B . v) with the inverse of M_ProductAinvBTrA: B n x n, vectors of n
-/// cells.
+/// v'.(B.v), x'.(B.y), and v'.(inv(B).v) with the inverse of M_ProductAinvBTrA; B n x n, vectors of n cells.
 ///
 /// @return 0.0 when n is below 1
 KAV_API double M_ProductTrVBV(const matrix* v, int n, const matrix* b);
@@ -83,8 +82,8 @@ KAV_API double M_ProductTrVinvBV(const matrix* v, int n, const matrix* b);
 /// @return the sums of the columns, each over i ascending, added over j ascending
 KAV_API double M_FrobeniusNorm(const matrix* a, int n, int p, const matrix* b);
 
-/// Row-wise Kronecker product: C(i, (k-1) q + l) = A(i,k) B(i,l), 1-based. A n x p, B n x q, C n x pq
-/// (caller's).
+/// Row-wise Kronecker product of A (n x p) and B (n x q): C(i, (k-1) q + l) = A(i,k) B(i,l), 1-based, n x pq
+/// cells (caller's).
 KAV_API void M_ProductHorizAB(const matrix* a, int n, int p, const matrix* b, int q, matrix* c);
 
 /// M_ProductHorizAB in place of A: a container of just n x pq is kept, any other pointer receives a new one.
@@ -97,8 +96,8 @@ KAV_API void M_ProductHorizAB2(matrix*& a, int n, int* p, const matrix* b, int q
 /// exactly 0.0 is 0.0 whatever the other factor is.
 ///
 /// In mode 3 each column is then weighted: its entries above 2.220446049250313e-16 are divided by the sum of
-/// the weights of their rows, those below -2.220446049250313e-16 by the sum of the weights of theirs. A sum of
-/// 0.0 leaves its entries unchanged.
+/// the weights of their rows, those below -2.220446049250313e-16 by the sum of the weights of theirs. A sum
+/// of 0.0 leaves its entries unchanged.
 ///
 /// @param mode         3, or any other value: products only
 /// @param weights      n cells, needed in mode 3 only: without them the products stay undivided

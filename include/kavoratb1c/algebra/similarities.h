@@ -1,8 +1,8 @@
 // Distances, similarities, and matrices made symmetric.
 //
 // Operands are leading blocks: the first n rows and p columns of a container, whatever its own size; a cell
-// outside the container reads -1.0. Missing: flagged, or holding the marker. In place, flagged cells keep what
-// they hold.
+// outside the container reads -1.0. Missing: flagged, or holding the marker. In place, flagged cells keep
+// what they hold.
 #pragma once
 
 #include "kavoratb1c/export.h"
@@ -12,9 +12,9 @@
 /// enter by their values.
 ///
 /// @param a          n x p
-/// @param distances  out: n x n, or p x p when byRows is 0. A container of just that shape is refilled with 0.0
-///                   (a flagged cell keeps 0.0: later writes to it are dropped); any other pointer receives a
-///                   new container, which belongs to the caller.
+/// @param distances  out: n x n, or p x p when byRows is 0. A container of just that shape is refilled with
+///                   0.0 (a flagged cell keeps 0.0: later writes to it are dropped); any other pointer
+///                   receives a new container, which belongs to the caller.
 /// @param weights    p weights, n when byRows is 0; null: 1.0 each
 /// @param byRows     0: between columns; any other value: between rows
 KAV_API void M_EuclidDist2(const matrix* a, int n, int p, matrix*& distances, const matrix* weights,
@@ -37,6 +37,6 @@ KAV_API int M_CheckIfSimOrDissim(const matrix* t, int n, int apriori);
 
 /// Makes an n x n matrix symmetric in place.
 ///
-/// @param type  0: both cells become their mean, or the marker where either holds it; 1: the upper triangle is
-///              copied to the lower; 2: the lower to the upper; any other value changes nothing
+/// @param type  0: both cells become their mean, or the marker where either holds it; 1: the upper triangle
+///              is copied to the lower; 2: the lower to the upper; any other value changes nothing
 KAV_API void M_Symmetrize(matrix* t, int n, int type);

@@ -1,9 +1,9 @@
 // Missing cells of tables: counted, flagged, replaced, their rows removed.
 //
-// Tables are leading n x p blocks of a container. A number is missing when its flag is set or it holds
-// exactly the marker, a text when it is empty; cells outside the container are not missing, but
-// M_NbMissing counts texts there, as V_NbMissing does. Flags are arrays of n, any value but 0 counts; results
-// are written as -1 and 0. Resulting tables are other containers than operands.
+// A table is a leading block: the first n rows and p columns of a container, whatever its own size; a cell
+// outside the container reads -1.0, or the empty string. A number is missing when its flag is set or it holds
+// exactly the marker, a label when it is empty. Cells outside the container are not missing, unless said
+// otherwise. Row flags are arrays of n: any non-zero is set; results are written as -1 and 0.
 #pragma once
 
 #include <string>
@@ -12,59 +12,66 @@
 #include "kavoratb1c/export.h"
 #include "kavoratb1c/matrix.h"
 
-/// The missing cells of each column, and those that are not; 0 without rows. As for V_NbMissing a number is
-/// missing when its flag is set or it is not above the marker, so that -infinity counts.
+/// Missing cells, or non-missing ones, of each column; 0 when n is below 1. Here a number is missing when its
+/// flag is set or it is at or below the marker, so that -infinity is missing; labels outside the container
+/// are missing. V_NbMissing counts alike.
 ///
-/// @param counts  p, out; null takes nothing
+/// @param counts  out, p integers; null: not wanted
 KAV_API void M_NbMissing(const matrix* a, int n, int p, int* counts);
 KAV_API void M_NbMissing(const Smatrix* a, int n, int p, int* counts);
 KAV_API void M_NbNonMissing(const matrix* a, int n, int p, int* counts);
 
-/// Flags the rows with a missing cell, and those in which every cell is missing (p at least 1).
+/// Flags the rows with a missing cell, and those in which every cell is missing (none when p is below 1).
 ///
-/// @param missing     in and out: a flag that is set stays set; null takes nothing
-/// @param allMissing  out; null takes nothing
+/// @param missing     in and out: a flag that is set stays set; null: not wanted
+/// @param allMissing  out; null: not wanted
 KAV_API void M_AllMissingRows(const matrix* a, int n, int p, short* missing, short* allMissing);
 KAV_API void M_AllMissingRows(const Smatrix* a, int n, int p, short* missing, short* allMissing);
 
-/// Flags the rows with a flag in any of three arrays, or in both of two. Null arrays are ignored; two null
-/// ones flag no row.
+/// Flags the rows that are flagged in any of three arrays, or in both of two arrays. Null arrays are ignored;
+/// when all are null no row is flagged.
 ///
-/// @param count    out: rows flagged; null takes nothing
-/// @param flagged  out, may be one of the arrays; null takes nothing
+/// @param count    out: number of flagged rows; null: not wanted
+/// @param flagged  out, may be one of the arrays; null: not wanted
 KAV_API void SummarizeMissing(int n, int* count, short* flagged, const short* first, const short* second,
                               const short* third);
 KAV_API void SummarizeAllMissing(int n, const short* first, const short* second, int* count, short* flagged);
 
-/// The rows without a flag, in their order, as a table of n - removed rows (prepared; cut to 0 .. n). With
-/// more flags than `removed` says the last rows of the result hold the marker, or empty texts; with fewer of
-/// them the last rows that remain are not given. Values are copied, never flags of cells.
+/// Copies the rows without a flag, in their order. Values are copied, never the cells' flags.
 ///
-/// @param flags  null: none is set
+/// @param removed  number of flags set. If more are set, the last rows of the result hold the marker, or
+///                 empty strings; if fewer are set, the last unflagged rows are not copied.
+/// @param flags    n, or null: none is set
+/// @param out      n - removed rows (clipped to 0 .. n), p columns; another container than a. A container of
+///                 just that shape is refilled with 0.0 (a flagged cell keeps 0.0: later writes to it are
+///                 dropped); any other pointer receives a new container, which belongs to the caller. Of
+///                 strings every cell is written.
 KAV_API void RemoveRowsWithMissing(const matrix* a, int n, int p, int removed, const short* flags,
                                    matrix*& out);
 KAV_API void RemoveRowsWithMissing(const Smatrix* a, int n, int p, int removed, const short* flags,
                                    Smatrix*& out);
 
-/// Gives every missing cell the value, and clears its flag.
+/// In place: gives every missing cell the value and clears its flag.
 KAV_API void M_ReplaceMissingByVal(matrix* a, int n, int p, double value);
 KAV_API void M_ReplaceMissingByStr(Smatrix* a, int n, int p, const std::u16string& value);
 
-/// All pW weights of the rows of a with a missing cell become 0.0 (w n x pW, by the element rule).
+/// Sets all weights of the rows of a with a missing cell to 0.0.
+///
+/// @param w  n x pW, in and out: one column per set of weights; flagged cells keep what they hold
 KAV_API void M_SetWeightsToZeroForMissing(const matrix* a, int n, int p, matrix* w, int pW);
 
-/// The label of each flagged row becomes the prefix and the number of the row, from 1.
+/// Replaces the label of each flagged row by the prefix followed by the row's number, from 1.
 ///
-/// @param flags  null: none is set
+/// @param labels  n strings, in and out
+/// @param flags   n, or null: none is set
 KAV_API void ReplaceMissingObsLabels(Smatrix* labels, int n, const short* flags,
                                      const std::u16string& prefix);
 
-/// out[i] = -1.0 where the cell is missing (flagged, the marker, or an empty string) or excluded, else 0.0.
+/// out[i] = -1.0 where the cell is missing or excluded, else 0.0.
 ///
-/// @param x        a vector: the first n cells of a container in linear order; those outside read -1.0, or
-///                 the empty string
-/// @param exclude  n flags; null excludes nothing
-/// @param out      n x 1, kept: a flagged cell keeps what it holds; a container of another shape is replaced
-///                 by a new one
+/// @param x        n cells of a container in linear order
+/// @param exclude  n flags; null excludes none
+/// @param out      n x 1, another container than x. A container of just that shape is kept, its flagged cells
+///                 keep what they hold; any other pointer receives a new one, which belongs to the caller.
 KAV_API void V_GetMissingDbl(const matrix* x, int n, const short* exclude, matrix*& out);
 KAV_API void V_GetMissingStr(const Smatrix* x, int n, const short* exclude, matrix*& out);

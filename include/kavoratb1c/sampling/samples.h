@@ -1,34 +1,38 @@
-// Samples of the rows of a table of labels, and random indicators.
+// Samples of the rows of a table of labels.
 //
-// Every scheme hands back the positions of its rows (idx, `size` x 1, 1-based) and the rows themselves (out,
-// `size` x p), both prepared: a container of that shape is refilled, any other pointer receives a new one. A
-// size below 1 draws nothing. Results are other containers than the table. Where a scheme has no row to give
-// - it takes every row once at most, and the table has fewer - idx holds the marker and the row is empty.
+// The table a is a leading block: the first n rows and p columns of a container of strings; a cell outside
+// the container reads as the empty string. Every scheme returns the positions of the sampled rows (idx, size
+// x 1, 1-based) and the rows themselves (out, size x p); a size below 1 draws nothing. Only sampling with
+// replacement takes a row more than once. Where there are too few rows, which for that scheme means none, the
+// last cells of idx hold the marker and the last rows of out empty strings.
 //
-// Systematic and stratified samples cut the table into `size` intervals of consecutive rows, as equal as they
-// can be: interval k (0-based) is rows floor(k n / size) .. floor((k + 1) n / size) - 1. A table with fewer
-// rows than the sample has one interval for each.
+// idx is refilled: a container of just that shape is refilled with 0.0 (a flagged cell keeps 0.0: later
+// writes to it are dropped); any other pointer receives a new container, which belongs to the caller. out
+// likewise, every string written; it must be another container than a.
 //
-// Seeds, in what draws at random: seedIsGiven -1 starts from *seed; otherwise a seed is taken from the
-// system's entropy and written to *seed, so that the sample can be drawn again. *nextSeed receives a seed
-// that goes on with fresh draws. The same seed gives the same sample on every build. Null seeds are not given
-// and not written.
+// Systematic and stratified samples divide the table into `size` intervals of consecutive rows of nearly
+// equal length: interval k (0-based) is rows floor(k n / size) .. floor((k + 1) n / size) - 1. In a table
+// with fewer rows than the sample, n stands for size: one interval per row.
+//
+// Random schemes: with seedIsGiven -1 the draws start from *seed; otherwise, or when seed is null, a seed is
+// taken from the system's entropy and written to *seed, so that the sample can be drawn again. *nextSeed
+// receives a seed for further draws; null: not wanted. The same seed gives the same sample on every build.
 #pragma once
 
 #include "kavoratb1c/Smatrix.h"
 #include "kavoratb1c/export.h"
 #include "kavoratb1c/matrix.h"
 
-/// Draws rows independently, each as likely as the others; a row may be drawn several times.
+/// Simple random sampling with replacement: rows are drawn independently, all with equal probability.
 KAV_API void M_SamplingWithReplacement(const Smatrix* a, int n, int p, int size, Smatrix*& out, matrix*& idx,
                                        int* seed, short seedIsGiven, int* nextSeed);
 
-/// The middle row of each interval, of an even number the first of the two.
+/// The middle row of each interval; of an even number of rows the first of the two middle ones.
 KAV_API void M_SamplingSystematicCentered(const Smatrix* a, int n, int p, int size, Smatrix*& out,
                                           matrix*& idx);
 
-/// Rows floor((k n + r) / size), 0-based, for k = 0, 1 ... with one random r from 0 .. n-1: even steps from a
-/// random start. Every row is in the sample with the same probability, size / n.
+/// Systematic sampling with a random start: rows floor((k n + r) / size), 0-based, k = 0, 1 ... size - 1,
+/// with one random r from 0 .. n-1. Every row is in the sample with probability size / n.
 KAV_API void M_SamplingSystematicRdStart(const Smatrix* a, int n, int p, int size, Smatrix*& out,
                                          matrix*& idx, int* seed, short seedIsGiven, int* nextSeed);
 
@@ -36,6 +40,8 @@ KAV_API void M_SamplingSystematicRdStart(const Smatrix* a, int n, int p, int siz
 KAV_API void M_SamplingRandomStratified(const Smatrix* a, int n, int p, int size, Smatrix*& out, matrix*& idx,
                                         int* seed, short seedIsGiven, int* nextSeed);
 
-/// The rows whose positions stand in idx (n cells, truncated toward zero), in that order and as often as they
-/// stand there (out: n x p). A position outside 1 .. n gives an empty row.
+/// The rows at given positions, in that order and with repetitions.
+///
+/// @param out  n x p
+/// @param idx  in: n positions, 1-based, truncated toward zero; others than 1 .. n give empty strings
 KAV_API void M_SampleUserDefined(const Smatrix* a, int n, int p, Smatrix*& out, const matrix* idx);

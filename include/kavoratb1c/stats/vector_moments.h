@@ -1,18 +1,29 @@
-// Variances, shape and correlation of vectors. Vectors as in vector_sums.h.
+// Variances, shape and correlation of vectors.
 //
-// Means and variances come from one pass with the weighted update of West (1979): with W the sum of the
-// weights so far, w[i] included,
+// A vector is the first n cells of a container in linear order, empty when n is below 1. A cell outside the
+// container reads -1.0, for data and weights alike; a null container has no cells. An n beyond the
+// container may throw std::bad_alloc. A cell is missing when its flag is set or its value is the marker,
+// otherwise present.
+//
+// Means and variances are computed in one pass by the weighted update of West (1979, Communications of the
+// ACM 22, 532-535). With W the sum of the weights so far, w[i] included,
 //
 //     d = x[i] - mean,   S += (w[i] - w[i]^2 / W) * d^2,   mean += (w[i] / W) * d
 //
-// The variance is S divided by one of three denominators, c being the number of cells used:
+// The variance is S divided by one of three denominators, with W the sum of all weights and c the number
+// of cells used:
 //
-//     W            unless unbiased
-//     W - 1        unbiased and biasIsOne: weights are frequencies
-//     W - W / c    unbiased alone: weights have any scale; c - 1 for weights of 1.0
+//     W            unbiased off
+//     W - 1        unbiased and biasIsOne on: weights are frequencies
+//     W - W / c    unbiased on, biasIsOne off: weights have any scale; c - 1 for weights of 1.0
 //
-// Options count at -1 only; 1 is off. Flags and weights are required: without them results are the marker.
-// A denominator of 0 is divided by as IEEE does.
+// Division by a denominator of 0.0 follows IEEE 754. Parameters shared by all:
+//
+//     exclude             n flags, any non-zero leaves the cell out
+//     w                   n weights
+//     unbiased biasIsOne  on only when -1
+//
+// Neither exclude nor w may be null: the results are then the marker, unless n is below 1.
 #pragma once
 
 #include "kavoratb1c/export.h"
@@ -20,52 +31,54 @@
 
 /// Weighted variance of the cells that are present and not excluded.
 ///
-/// A weight of 0.0 does not leave a cell out, unlike in V_MeanVar: as first weight it makes the result NaN,
-/// later it counts in c.
+/// Unlike in V_MeanVar a weight of 0.0 does not leave a cell out: as the first weight used it makes the
+/// result NaN, later it only counts in c.
 KAV_API double V_Var(const matrix* x, int n, const short* exclude, const matrix* w, short unbiased,
                      short biasIsOne);
 
-/// Square root of V_Var.
+/// Standard deviation: square root of V_Var.
 KAV_API double V_Stdev(const matrix* x, int n, const short* exclude, const matrix* w, short unbiased,
                        short biasIsOne);
 
-/// Weighted mean and variance of the cells that are present, not excluded, and whose weight is not exactly
-/// 0.0.
+/// Weighted mean and variance of the cells that are present, not excluded, and of a weight not exactly 0.0.
+/// With no such cell the mean is 0.0, unlike that of V_Mean.
 ///
-/// @param mean var  out; null takes nothing
-/// @return -1; 0 without flags or weights
+/// @param mean var  out; may be null
+/// @return -1; 0 when exclude or w is null and n is not below 1
 KAV_API short V_MeanVar(const matrix* x, int n, double* mean, double* var, const short* exclude,
                         const matrix* w, short unbiased, short biasIsOne);
 
-/// The same with the square root of the variance.
+/// V_MeanVar with the standard deviation, the square root of the variance, in its place.
 KAV_API short V_MeanStdev(const matrix* x, int n, double* mean, double* stdev, const short* exclude,
                           const matrix* w, short unbiased, short biasIsOne);
 
-/// Weighted mean, variance, skewness and excess kurtosis.
+/// Weighted mean, variance, skewness and excess kurtosis of the cells that are not excluded and of a weight
+/// not exactly 0.0. Missing cells are not left out: a flagged one enters by its value, which is 0.0 when it
+/// arrived missing.
 ///
-/// Used are the cells that are not excluded and whose weight is not exactly 0.0. Missing cells are not left
-/// out: a flagged one counts by its value, 0.0 when it was flagged on arrival.
+/// With M2, M3, M4 the weighted central sums, and k = 1 when biasIsOne is on, W / c otherwise:
 ///
-/// With M2, M3, M4 the weighted central sums, k = 1 when biasIsOne is set and W / c otherwise:
-///
-///     var   = M2 / (W - k), or M2 / W unless unbiased
+///     var   = M2 / (W - k), or M2 / W with unbiased off
 ///     skewP = (M3 / W) / var^1.5                 kurtP = (M4 / W) / var^2 - 3
 ///     skew  = sqrt((W - k) W) skewP / (W - 2 k)
 ///     kurt  = ((kurtP + 3) (k + W) - 3 (W - k)) (W - k) / ((W - 2 k) (W - 3 k))
 ///
-/// var is the one just chosen, also in the population values. The marker comes out for: all but the mean when
-/// W - k is 0; the four shapes when var is 0; skew when W is not above twice the mean weight W / c, whatever
-/// k is; kurt when (W - 2 k)(W - 3 k) is not above 0.
+/// The population values skewP and kurtP also use var as chosen by unbiased. The marker is the result for
 ///
-/// @param mean ... kurt  out; null takes nothing
+///     var and all four shapes   when unbiased is on and W - k is 0
+///     all four shapes           when var is 0
+///     skew                      when W is at or below 2 W / c, also with biasIsOne on
+///     kurt                      when (W - 2 k)(W - 3 k) is at or below 0
+///
+/// @param mean ... kurt  out; may be null
 KAV_API void V_MeanVarSkewPKurtP(const matrix* x, int n, double* mean, double* var, double* skewP,
                                  double* kurtP, double* skew, double* kurt, const short* exclude,
                                  const matrix* w, short unbiased, short biasIsOne);
 
-/// Weighted linear (Pearson) correlation of the rows where both cells are present, not excluded, and the
-/// weight is not exactly 0.0.
+/// Weighted linear correlation (Pearson) over the rows where both cells are present, not excluded, and of a
+/// weight not exactly 0.0.
 ///
-/// @param unbiased biasIsOne  not used: the denominators of covariance and variances cancel
-/// @return 0.0 when a side is constant; the marker when no row is usable
+/// @param unbiased biasIsOne  ignored: the denominators of covariance and variances cancel
+/// @return 0.0 when x or y is constant over these rows; the marker when there is no such row
 KAV_API double CorrelPearson(const matrix* x, const matrix* y, int n, const short* exclude, const matrix* w,
                              short unbiased, short biasIsOne);

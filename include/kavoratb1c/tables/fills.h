@@ -1,4 +1,7 @@
 // Vectors and flags filled.
+//
+// *refilled*: a container of just n x 1 cells receives the given value in every cell, flagged ones included,
+// and keeps its flags; any other pointer receives a new container, which belongs to the caller.
 #pragma once
 
 #include <string>
@@ -7,22 +10,22 @@
 #include "kavoratb1c/export.h"
 #include "kavoratb1c/matrix.h"
 
-/// Makes v a vector of n cells x, by matCheck: a container of that shape is refilled (flags unchanged), any
-/// other pointer receives a new one, which belongs to the caller.
+/// v = n cells of value x (refilled). Both functions do the same.
 /// @return 0
 KAV_API int SetVectorToValue(matrix*& v, int n, double x);
 KAV_API int V_SetToValue(matrix*& v, int n, double x);
 
-/// The same with 0.0.
+/// v = n cells of 0.0 (refilled).
+/// @return 0
 KAV_API int InitVectorToFalse(matrix*& v, int n);
 
-/// Writes 0 into n flags; does nothing when n is below 1 or a is null.
+/// Writes 0 into n flags; changes nothing when n is below 1 or a is null.
 /// @return 0
 KAV_API int InitVARIANTBOOLToFalse(short* a, int n);
 
-/// Makes v the vector 1, 2 ... n, by matCheck; a flagged cell holds 0.0.
+/// v = 1, 2 ... n (refilled with 0.0 first: a flagged cell holds 0.0).
 /// @return 0
 KAV_API int V_Set1toN(matrix*& v, int n);
 
-/// Makes v a vector of n strings s, by matCheck.
+/// v = n strings s (refilled).
 KAV_API void V_SetToValueStr(Smatrix*& v, int n, const std::u16string& s);

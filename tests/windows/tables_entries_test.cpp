@@ -17,7 +17,7 @@ using Flags = std::vector<VARIANT_BOOL>;
 using Texts = std::vector<std::wstring>;
 using Arguments = std::vector<macro::Argument>;
 
-class AssemblyEntries : public testing::Test {
+class TablesEntries : public testing::Test {
  protected:
   /// What an entry makes of `out`, of the cells before in it when it works in place.
   void gives(const std::wstring& entry, const Arguments& arguments, Doubles expected,
@@ -53,7 +53,7 @@ class AssemblyEntries : public testing::Test {
 
 }  // namespace
 
-TEST_F(AssemblyEntries, BlocksCopiedAndPasted) {
+TEST_F(TablesEntries, BlocksCopiedAndPasted) {
   gives(L"VB_M_CopyBlock", {a, 3, 3, 2, 3, 1, 2, out}, {2, 3, kMarker, 6});
   gives(L"VB_M_CopyBlock", {a, 3, 3, 0, INT_MAX, 3, 9, out}, {7, 8, 9});
   gives(L"VB_M_CopyBlock", {out, 3, 3, 2, 3, 2, 3, out}, {kMarker, 6, 8, 9, kMarker, 6, 7, 8, 9}, a);
@@ -75,7 +75,7 @@ TEST_F(AssemblyEntries, BlocksCopiedAndPasted) {
   gives(L"VB_GenerateIndicator", {out, 5, 2, 3}, {0, 1, 1, 0, 0});
 }
 
-TEST_F(AssemblyEntries, RowsAndColumnsRemovedAndMoved) {
+TEST_F(TablesEntries, RowsAndColumnsRemovedAndMoved) {
   std::vector<int> list = {3, 7, 3, 0};
   Doubles constant = {1, 2, kMarker, kMarker, 3, 3};
   gives(L"VB_M_RemoveRow", {a, 3, 3, 2, out}, {1, 3, 4, 6, 7, 9});
@@ -92,7 +92,7 @@ TEST_F(AssemblyEntries, RowsAndColumnsRemovedAndMoved) {
   gives(L"VB_M_IsColConstant", {a, 3, 3}, {}, {}, 0);
 }
 
-TEST_F(AssemblyEntries, TablesAndVectorsMerged) {
+TEST_F(TablesEntries, TablesAndVectorsMerged) {
   const Doubles merged = {1, 2, 0, 3, 4, 0, 3, kMarker, 5}, joined = {1, 2, 3, kMarker, 5};
   gives(L"VB_HMergeTablesDbl", {m, 2, 2, y, 3, 1, out}, merged);
   gives(L"VB_HMergeTablesDbl2", {out, 2, 2, y, 3, 1}, merged, m);
@@ -115,7 +115,7 @@ TEST_F(AssemblyEntries, TablesAndVectorsMerged) {
   EXPECT_EQ(joined1, (Flags{-1, 0, -1, 0, -1, 5, 5, 5, 5, 5}));
 }
 
-TEST_F(AssemblyEntries, StringsCopiedAndMerged) {
+TEST_F(TablesEntries, StringsCopiedAndMerged) {
   const std::wstring label = L"a longer label \xD83D\xDE00";
   macro::Strings resized(4), extracted(3), column(3), merged(7), rows(6);
   makes(L"VB_M_CopyResizeStr", resized, {t, 2, 2, resized, 1, 3}, {L"a", L"c", L""});
@@ -128,7 +128,7 @@ TEST_F(AssemblyEntries, StringsCopiedAndMerged) {
   makes(L"VB_VMergeVectorsStr2", rows, {rows, 4, s, 1}, {L"a", L"", L"c", L"s", L"s"});
 }
 
-TEST_F(AssemblyEntries, LabelsBecomeCodesAndColumns) {
+TEST_F(TablesEntries, LabelsBecomeCodesAndColumns) {
   macro::Strings labels = {L"b", L"a", L"?", L"x", L"", L"x"}, categories = {L"a", L"b", L"x"};
   std::vector<int> counts = {2, 1};
   Flags rows = {0, -1, 0};

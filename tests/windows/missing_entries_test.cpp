@@ -14,7 +14,7 @@ constexpr double kMarker = -1.79769313486231E+308, kUntouched = 9.5;
 
 using Doubles = std::vector<double>;
 
-class SummaryEntries : public testing::Test {
+class MissingEntries : public testing::Test {
  protected:
   /// What an entry, named without VB_, returns and leaves in x, n, f and t, up to the last cell it touched;
   /// '*' is missing. All are as before then.
@@ -60,12 +60,12 @@ class SummaryEntries : public testing::Test {
   macro::Strings s = {L"a", L"", L"b", L"", L"", L"b"}, r = {L"p", L"q", L"p", L"r"}, own = {L"q", L"z"};
   std::vector<VARIANT_BOOL> second = {0, -1, 0}, first = {1, 0, 0};
 
-  SummaryEntries() { std::fill_n(x, 9, kUntouched), std::fill_n(n, 6, 77), std::fill_n(f, 7, 5); }
+  MissingEntries() { std::fill_n(x, 9, kUntouched), std::fill_n(n, 6, 77), std::fill_n(f, 7, 5); }
 };
 
 }  // namespace
 
-TEST_F(SummaryEntries, MissingCells) {
+TEST_F(MissingEntries, MissingCells) {
   std::fill_n(f, 3, 0);
   gives(L"M_AllMissingRows", {a, 3, 3, f, f + 4}, L" f -1 -1 0 5 0 -1 0");
   gives(L"M_AllMissingRowsStr", {s, 3, 2, none, f}, L" f 0 -1 0");
@@ -85,7 +85,7 @@ TEST_F(SummaryEntries, MissingCells) {
   gives(L"ReplaceMissingObsLabels", {texts({L"", L"b", L"c"}), 3, second, own.data()[1]}, L" t  z2 c");
 }
 
-TEST_F(SummaryEntries, EstimatesOfMissingCells) {
+TEST_F(MissingEntries, EstimatesOfMissingCells) {
   Doubles one = {0, 10}, two = {5, 7};
   gives(L"EstimateRowsWithMissingMean", {with({1, kMarker, 4}), 3, 1, none, w}, L" x 1 3 4");
   gives(L"EstimateRowsWithMissingMeanPred", {a, 3, with({kMarker, 2}), 2, 1, first, noWeights}, L" x 3 2");
@@ -99,7 +99,7 @@ TEST_F(SummaryEntries, EstimatesOfMissingCells) {
         {one, 2, with({9, kMarker}), 1, 1, none, two, x + 1, 1, r, texts({L""}), 1, w}, L" x 9 7 t q");
 }
 
-TEST_F(SummaryEntries, Samples) {
+TEST_F(MissingEntries, Samples) {
   Doubles chosen = {4, 4, kMarker, 1};
   gives(L"M_SamplingSystematicCentered", {r, 4, 1, 2, t, x}, L" x 1 3 t p p");
   gives(L"M_SampleUserDefined", {r, 4, 1, t, chosen}, L" t r r  p");
@@ -117,7 +117,7 @@ TEST_F(SummaryEntries, Samples) {
   EXPECT_EQ(after(L"GenerateRandomIndicator", {x, 8, 4, &seed, true, n}), drawn);
 }
 
-TEST_F(SummaryEntries, Checks) {
+TEST_F(MissingEntries, Checks) {
   Doubles symmetric = {1, 2, 2, 5}, sums = {1, 1, 1, -1}, covariances = {4, 1, 1, 9};
   std::vector<int> counts = {2};
   gives(L"M_IsSymmetric", {symmetric, 2}, L"-1");

@@ -18,7 +18,7 @@ using Flags = std::vector<VARIANT_BOOL>;
 using Arguments = std::vector<macro::Argument>;
 
 /// Entries are named without their common prefix, VB_M_.
-class TableEntries : public testing::Test {
+class AlgebraEntries : public testing::Test {
  protected:
   double call(const std::wstring& name, const Arguments& arguments) {
     entry_ = L"VB_M_" + name;
@@ -87,7 +87,7 @@ class TableEntries : public testing::Test {
 
 }  // namespace
 
-TEST_F(TableEntries, Products) {
+TEST_F(AlgebraEntries, Products) {
   Doubles missing = a;
   missing[3] = kMarker;
   shows(L"ProductAB", {a, 2, 3, b, 2, out}, {2.4375, 3.375, -1.25, 14.875}, a);
@@ -134,7 +134,7 @@ TEST_F(TableEntries, Products) {
   EXPECT_EQ(sums, (Doubles{1.5, 3.5, kUntouched}));
 }
 
-TEST_F(TableEntries, NumbersOfATable) {
+TEST_F(AlgebraEntries, NumbersOfATable) {
   Doubles y = {0.5, -3, 1.25}, distant = {0, 1.5, 1.5, 0}, similar = {2, 1.5, 1.5, 2};
   Doubles both(4, 0.0), neither = {1, 2, 2, 1};
   returns(L"ProductTrVBV", {v, 3, r}, -0.8125);
@@ -152,7 +152,7 @@ TEST_F(TableEntries, NumbersOfATable) {
   EXPECT_FALSE(std::fabs(call(L"ProductTrV1BV2", {v, 3, r, y})) < 1e+300);
 }
 
-TEST_F(TableEntries, Elements) {
+TEST_F(AlgebraEntries, Elements) {
   Doubles m = {kMarker, 3.5, kMarker, kMarker, -2.5, -7.25};
   shows(L"ScalarsA", {a, 2, 3, -1.5, out}, {-3.75, 1.875, -1.125, -4.5, 0.75, -2.25}, a);
   gives(L"ScalarsA2", {out, 2, 3, -1.5}, {-3.75, 1.875, -1.125, -4.5, 0.75, -2.25}, a);
@@ -182,7 +182,7 @@ TEST_F(TableEntries, Elements) {
   expectCells(max, {3.5, kMarker, -2.5});
 }
 
-TEST_F(TableEntries, CentredReducedStandardized) {
+TEST_F(AlgebraEntries, CentredReducedStandardized) {
   const double s1 = 37.5, s2 = 67.5, w1 = 523.0 / 8.0, w2 = 4927.0 / 32.0;
   gives(L"Center", {x, 4, 3, out}, table(3.0, 0.5, 1.0, 1.0));
   gives(L"Center2", {out, 4, 3}, table(3.0, 0.5, 1.0, 1.0, kStays), x);
@@ -204,7 +204,7 @@ TEST_F(TableEntries, CentredReducedStandardized) {
   expectStatistics({3.75, 3.125, 2.375}, {16.75, 4.5625, 0});
 }
 
-TEST_F(TableEntries, TransformedByKnownNumbers) {
+TEST_F(AlgebraEntries, TransformedByKnownNumbers) {
   Doubles known = {1.5, -2.25, 4}, deviations = {2.5, 0.75, 0}, some = {1, 0.5, 2, 0};
   Doubles norms(4, kUntouched);
   Flags cells = {0, 0, -1, 0, 0, 0, 0, 0, 0, 0, 0, 0};
@@ -233,7 +233,7 @@ TEST_F(TableEntries, TransformedByKnownNumbers) {
   }
 }
 
-TEST_F(TableEntries, MeansAndDeviations) {
+TEST_F(AlgebraEntries, MeansAndDeviations) {
   const double v1 = 193.0 / 18.0, v2 = 389.0 / 144.0;
   const Doubles missing(3, kMarker), mean = {29.0 / 6.0, 43.0 / 12.0, 2.375};
   gives(L"MeanStDev", {x, 4, 3, out, stdevs, all, w, true, true, true}, {4.625, 19.0 / 14.0, 2.375});
@@ -252,7 +252,7 @@ TEST_F(TableEntries, MeansAndDeviations) {
   expectStatistics({43.0 / 12.0}, {v2});
 }
 
-TEST_F(TableEntries, CovariancesAndDistances) {
+TEST_F(AlgebraEntries, CovariancesAndDistances) {
   Doubles other = {2.375, 2.375, 2.375, 2.375, 2.5, -1.5, 4, 7}, weights = {1.5, 0.25, 2};
   Doubles known = {6.25, -2.5, 0, -2.5, 4, 0, 0, 0, 0};
   const double v1 = 523.0 / 56.0, v2 = 2133.0 / 84.0, v12 = 363.0 / 84.0, rho = v12 / std::sqrt(v1 * v2);
