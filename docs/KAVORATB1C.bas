@@ -2,7 +2,7 @@ Attribute VB_Name = "KAVORATB1C"
 ' Declarations for hosts that do not read the DLL's type library.
 ' Derived from KAVORATB1C.idl by tools/catalogue.py; do not edit.
 '
-' Arrays: pass the first element, iVector(1). Tables are column after column.
+' Arrays: pass the first element, iVector(1). Tables are column-major.
 ' Strings: Declare statements would convert them, so they go as pointers: StrPtr(s) for one string,
 ' VarPtr(labels(1)) for an array. A string result is turned into a string by TakeString.
 ' String arrays that receive results must be fresh: what a slot held is not freed.

@@ -9,7 +9,7 @@ Public Sub PrincipalComponents()
     n = source.Rows.Count - 1
     p = source.Columns.Count
 
-    ' A table is one array, column after column.
+    ' A table is one array, column-major.
     Dim x() As Double
     ReDim x(1 To n * p)
     For j = 1 To p

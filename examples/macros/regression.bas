@@ -101,7 +101,7 @@ Public Sub LogisticRegression()
     Next j
 End Sub
 
-' The first p columns as one array, column after column.
+' The first p columns as one column-major array.
 Private Sub ReadTable(source As Range, n As Long, p As Long, x() As Double)
     Dim i As Long, j As Long
     ReDim x(1 To n * p)

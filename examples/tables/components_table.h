@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-/// Tables lie column after column; `axes` of the components are shown.
+/// Tables are column-major; `axes` of the components are shown.
 struct Components {
   std::vector<std::string> variables, rows;
   std::vector<double> eigenvalues, percentages;  ///< one for each variable

@@ -7,7 +7,7 @@
 
 #include "csv_table.h"
 
-/// Tables lie column after column; the first column of the design holds ones.
+/// Tables are column-major; the first column of the design holds ones.
 struct LogisticModel {
   /// A column of zeros and ones by others.
   LogisticModel(const CsvTable& file, const std::string& responseName, const std::vector<std::string>& names);

@@ -3,9 +3,9 @@
 // write makes the cached statistics stale. A worker asks for its operands once and then loops over plain
 // memory. Internal.
 //
-// Cell (i, j) of a block is at i + leadingDimension() * j. Where the block lies inside the container it is the
-// container's own memory; otherwise it is a padded copy. A null container has no cells, so every read of it
-// is outside.
+// Cell (i, j) of a block is at i + leadingDimension() * j. Where the block lies inside the container it is
+// the container's own memory; otherwise it is a padded copy. A null container has no cells, so every read of
+// it is outside.
 #pragma once
 
 #include <algorithm>
@@ -103,7 +103,7 @@ inline bool isPlain(const matrix* m, int n, int p) {
 /// A block to be written, as setElement writes it, once store() is called.
 ///
 /// Where a cell is flagged or outside, or where n exceeds the container's rows so that columns overlap,
-/// writes go to a buffer and from there through the element rule, column after column. The buffer starts with
+/// writes go to a buffer and from there through the element rule, column by column. The buffer starts with
 /// what the block holds, so cells that are not written stay. Of cells that overlap the last in that order
 /// counts, written or not.
 class Target {

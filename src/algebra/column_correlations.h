@@ -7,8 +7,8 @@
 
 namespace kav {
 
-/// The results of M_CovCorrAndMeanStDevVar for a table that these columns make side by side, none of its cells
-/// flagged: correlations over all rows, unbiased, weights as frequencies.
+/// The results of M_CovCorrAndMeanStDevVar for a table that these columns make side by side, none of its
+/// cells flagged: correlations over all rows, unbiased, weights as frequencies.
 struct ColumnCorrelations {
   /// For p columns, not computed yet.
   explicit ColumnCorrelations(int p)

@@ -191,7 +191,8 @@ void threeByFirst(matrix* first, int n1, int p, matrix* second, int n2, matrix* 
   if (third != nullptr) transform(third, n3, p, &means, &stdevs, third, scaled);
 }
 
-/// Each column as a vector of its own, with its flags, through byVector(vector, exclude, result), into target.
+/// Each column as a vector of its own, with its flags, through byVector(vector, exclude, result), into
+/// target.
 template <class ByVector>
 void columnByColumn(const matrix* a, int n, int p, const short* flags, matrix* target, ByVector byVector) {
   if (!results::haveCells(n, p)) return;

@@ -67,9 +67,9 @@ class InTable {
 };
 
 /// Lets a worker write to the macro's array itself, unless it reads one of these operands from there. For
-/// workers that do nothing that can fail once they write to their only result, of which they write every cell,
-/// or rewrite some: of a table that is no more work than a copy, fresh memory and the copy would be most of
-/// the cost.
+/// workers that do nothing that can fail once they write to their only result, of which they write every
+/// cell, or rewrite some: of a table that is no more work than a copy, fresh memory and the copy would be
+/// most of the cost.
 class InPlaceUnlessRead {
  public:
   constexpr InPlaceUnlessRead() : operands_{nullptr, nullptr} {}

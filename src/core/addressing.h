@@ -1,4 +1,4 @@
-// How both containers address their cells: column after column, by linear index, sizes below 1 meaning
+// How both containers address their cells: column-major, by linear index, sizes below 1 meaning
 // no cells. Internal.
 #pragma once
 

@@ -5,6 +5,7 @@
 
 #include "access/block.h"
 #include "access/checked_elements.h"
+#include "access/results.h"
 #include "decomp/kept.h"
 #include "kernels/kernels.h"
 #include "numerics/plain_elements.h"
@@ -20,7 +21,7 @@ constexpr int kNotPositive = -1;
 /// Sizes from which rows of L are computed side by side.
 constexpr int kFewRows = 12;
 
-/// As it is defined, column after column of L.
+/// As it is defined, column by column of L.
 template <class Cells>
 int decompose(const block::Values& a, int n, const Cells& l) {
   for (int i = 0; i < n; ++i) {
@@ -125,7 +126,7 @@ int decomposeInMemory(const block::Values& a, int n, double* l, std::ptrdiff_t s
 }  // namespace
 
 int M_CholDecomp(const matrix* a, int n, matrix*& l) {
-  matrix::matCheck(l, n, n, 0.0);
+  results::refill(l, n, n);
   if (n < 1) return 0;
   const block::Values cells(a, n, n);
   if (!block::isPlain(l, n, n)) return decompose(cells, n, elements::Checked(l));

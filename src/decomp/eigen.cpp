@@ -7,6 +7,7 @@
 
 #include "access/block.h"
 #include "access/checked_elements.h"
+#include "access/results.h"
 #include "decomp/rotations.h"
 #include "decomp/tridiagonal.h"
 #include "decomp/tridiagonalization.h"
@@ -131,8 +132,8 @@ void sortDecreasing(matrix*& values, matrix*& vectors, int n) {
 }  // namespace
 
 int M_Eigen(const matrix* a, matrix*& values, matrix*& vectors, int n, int sort) {
-  matrix::matCheck(values, n, 1, 0.0);
-  matrix::matCheck(vectors, n, n, 0.0);
+  results::refill(values, n, 1);
+  results::refill(vectors, n, n);
   if (n < 1) return 0;
   const block::Values cells(a, n, n);
   std::vector<double> d(static_cast<std::size_t>(n)), e(d.size());

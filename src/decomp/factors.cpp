@@ -51,7 +51,7 @@ void rescale(const matrix* cells, int rows, const matrix* values, const std::vec
 int FilterEigen(matrix*& values, int n, short drop, double minimum, double cumulative, int most,
                 double kaiser, int& kept, int& selected, matrix*& percentages) {
   kept = keptOf(values, std::max(n, 0), drop, minimum);
-  matrix::matCheck(percentages, n, 1, 0.0);
+  results::refill(percentages, n, 1);
   const block::Values cells(values, n);
   const double total = V_Sum2(values, kept) * 0.01;
   for (int k = 0; k < kept; ++k) percentages->setElement(k, 0, cells[k] / total);
@@ -88,8 +88,8 @@ void BiplotTransData(const matrix* scores, const matrix* supplementary, const ma
                      int nSupp, int p, int axes, const matrix* values, double scale, double exponent,
                      matrix*& newScores, matrix*& newLoadings) {
   const int active = std::max(n, 0), others = supplementary == nullptr ? 0 : std::max(nSupp, 0);
-  matrix::matCheck(newScores, addressing::together(active, others), axes, 0.0);
-  matrix::matCheck(newLoadings, p, axes, 0.0);
+  results::refill(newScores, addressing::together(active, others), axes);
+  results::refill(newLoadings, p, axes);
   const block::Values cells(values, axes);
   std::vector<double> factors;
   factors.reserve(static_cast<std::size_t>(std::max(axes, 0)));

@@ -27,9 +27,9 @@ inline void extract(const matrix* a, int n, const std::vector<int>& kept, matrix
   }
 }
 
-/// The other way, into a table prepared as n x n of 0.0.
+/// The other way, into a refilled n x n result.
 inline void scatter(const matrix& small, const std::vector<int>& kept, int n, matrix*& result) {
-  matrix::matCheck(result, n, n, 0.0);
+  results::refill(result, n, n);
   for (std::size_t j = 0; j < kept.size(); ++j) {
     for (std::size_t i = 0; i < kept.size(); ++i) {
       result->setElement(kept[i], kept[j], small.getElement(static_cast<int>(i), static_cast<int>(j)));

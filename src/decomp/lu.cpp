@@ -52,7 +52,7 @@ void finish(const Cells& a, int n, int j) {
   for (int i = j + 1; i < n; ++i) a.set(i, j, a(i, j) * reciprocal);
 }
 
-/// As it is defined, column after column.
+/// As it is defined, column by column.
 template <class Cells>
 short decompose(const Cells& a, int n, Exchanges& exchanges) {
   for (int j = 0; j < n; ++j) {

@@ -73,7 +73,7 @@ void readColumn(const Tables& tables, const Widths& widths, int j, Codes& codes,
   for (int i = 0; i < tables.n; ++i) put(i, present(i) ? present.x[i] : kAbsent);
 }
 
-/// The rows that are learned from, column after column.
+/// The rows that are learned from, column-major.
 struct Donors {
   std::vector<int> rows;
   std::ptrdiff_t stride;       ///< rows, filled up to whole groups of lanes by ones without cells

@@ -1,7 +1,7 @@
 // LU decomposition with implicitly scaled partial pivoting, panel by panel. Internal.
 //
 // Every cell subtracts its terms one by one in ascending order, whichever loop is outside: panels of columns
-// are decomposed by columns, and the rest is updated by products of tables that go on from what the cells
+// are decomposed by columns, and the rest is updated by matrix products that accumulate into what the cells
 // hold.
 #pragma once
 
@@ -48,7 +48,7 @@ int pivotRow(const Cells& a, int n, const double* scales, int j) {
   return pivot;
 }
 
-/// A square table, column after column, that takes off products of its own columns.
+/// A square matrix, column-major, that subtracts products of its own columns.
 class Panels {
  public:
   Panels(double* cells, int n) : cells_(cells), n_(n), minusOnes_(kPanel, -1.0) {}

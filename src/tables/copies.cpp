@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "access/block.h"
+#include "access/results.h"
 #include "access/texts.h"
 #include "core/addressing.h"
 
@@ -14,7 +15,7 @@ void V_Duplicate(const Smatrix* v, int n, Smatrix*& out) { M_Duplicate(v, n, 1, 
 
 void M_Duplicate(const matrix* a, int n, int p, matrix*& out) {
   const block::Values source(a, n, p);
-  matrix::matCheck(out, n, p, 0.0);
+  results::refill(out, n, p);
   block::Target target(out, n, p);
   for (int j = 0; j < p; ++j) {
     std::copy_n(source.column(j), std::max(n, 0), target.column(j));
@@ -29,7 +30,7 @@ void M_Duplicate(const Smatrix* a, int n, int p, Smatrix*& out) {
 
 void V_Reverse(const matrix* v, int n, matrix*& out) {
   const block::Values source(v, n);
-  matrix::matCheck(out, n, 1, 0.0);
+  results::refill(out, n, 1);
   block::Target target(out, n);
   std::reverse_copy(source.data(), source.data() + std::max(n, 0), target.data());
   target.store();
@@ -38,7 +39,7 @@ void V_Reverse(const matrix* v, int n, matrix*& out) {
 void V_RemoveVal(const matrix* v, int n, int position, matrix*& out) {
   const block::Values source(v, n);
   const int kept = std::max(n, 1) - 1;
-  matrix::matCheck(out, kept, 1, 0.0);
+  results::refill(out, kept, 1);
   block::Target target(out, kept);
   for (int i = 0; i < kept; ++i) target[i] = source[position >= 1 && i >= position - 1 ? i + 1 : i];
   target.store();

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "access/block.h"
+#include "access/results.h"
 #include "core/addressing.h"
 
 using namespace kav;
@@ -22,7 +23,7 @@ int InitVARIANTBOOLToFalse(short* a, int n) {
 int V_SetToValue(matrix*& v, int n, double x) { return SetVectorToValue(v, n, x); }
 
 int V_Set1toN(matrix*& v, int n) {
-  matrix::matCheck(v, n, 1, 0.0);
+  results::refill(v, n, 1);
   block::Target target(v, n);
   for (int i = 0; i < n; ++i) target[i] = i + 1.0;
   target.store();

@@ -14,8 +14,8 @@
 /// are multiplied by its reciprocal.
 ///
 /// @param a       n x n, in and out; a flagged cell keeps what it holds, and that is what later sums take
-/// @param index   out, n cells: the row, 1-based, that was exchanged with row j. The container is kept; a null
-///                pointer receives a new one.
+/// @param index   out, n cells: the row, 1-based, that was exchanged with row j. The container is kept; a
+///                null pointer receives a new one.
 /// @param parity  out: 1.0, or -1.0 after an odd number of exchanges
 /// @param status  out: 0; -1 a row of zeros, A unchanged; 1 a column without a candidate (all NaN), A
 ///                part-way. A pivot of exactly 0.0 becomes 1e-20 and is no failure.
