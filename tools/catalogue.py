@@ -225,6 +225,21 @@ def test_calls(entries):
     return f"// {DERIVED}\n// clang-format off\n" + "".join(f"    {{&{e.name}}},\n" for e in entries)
 
 
+def test_sizes(entries, pages):
+    """How many cells each array of each entry has, as the reference says: C++ over the values of the parameters."""
+    def expression(cells):
+        text = re.sub(r"sum \( (\w+) \)", r'v.sum("\1")', cells)
+        text = re.sub(r'(?<!["\w.])(?!max\b|min\b|v\b)([A-Za-z_]\w*)(?!["\w])', r'v("\1")', text)
+        text = re.sub(r"\b(max|min) \(", r"std::\1(", text)
+        return re.sub(r'(?<![\w"])(\d+)', r"\1LL", text)
+
+    return f"// {DERIVED}\n// clang-format off\n" + "".join(
+        f"    {{{e.ordinal}, {position}, [](const Values& v) {{ return {expression(cells)}; }}}},\n"
+        if 'v("' in expression(cells) or "v.sum" in expression(cells) else
+        f"    {{{e.ordinal}, {position}, [](const Values&) {{ return {expression(cells)}; }}}},\n"
+        for e, position, cells in manual.sizes(entries, pages) if cells)
+
+
 # ---- for macro authors ----
 
 BASIC_TYPES = {"double": "Double", "int": "Long", "VARIANT_BOOL": "Boolean"}
@@ -300,6 +315,7 @@ def derived_files():
         ROOT / "tests" / "support" / "generated" / "catalogue.inc": tests_table(entries),
         ROOT / "tests" / "manual" / "generated" / "prototypes.h": test_prototypes(entries),
         ROOT / "tests" / "manual" / "generated" / "entries.inc": test_calls(entries),
+        ROOT / "tests" / "sweep" / "generated" / "sizes.inc": test_sizes(entries, pages),
         ROOT / "docs" / "KAVORATB1C.bas": basic_module(entries),
         REFERENCE / "index.md": manual.index(entries, pages, DERIVED),
         **pages,
@@ -317,7 +333,8 @@ def write():
 
 
 def check():
-    lacking = [*manual.faults(manual.pages(read_catalogue(), REFERENCE, BRIDGE)), *manual.dead_links(REFERENCE.parent)]
+    entries = read_catalogue()
+    lacking = [*manual.faults(entries, manual.pages(entries, REFERENCE, BRIDGE)), *manual.dead_links(REFERENCE.parent)]
     if lacking:
         sys.exit("\n".join(lacking))
     stale = [p for p, text in derived_files().items() if not p.exists() or p.read_text() != text]

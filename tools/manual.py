@@ -141,8 +141,55 @@ reads `VB_V_Mean(price(1), 4, excluded(1), quantity(1))`, and tables are arrays 
 """
 
 
-def faults(texts):
-    """What a page lacks: the meaning of a parameter, or a worked example."""
+# An array's size stands first in what it holds: names of parameters, numbers, + - * / ( ) max min sum, and x between
+# rows and columns, as in "(n - 1) x p", "one cell" or "at most n / 2 cells".
+TOKEN = re.compile(r"\s*(?:(\d+|max|min|sum|[A-Za-z_]\w*)|([-+*/(),.]))")
+OPERATORS = {"x": "*", ".": "*"}
+
+
+def size(meaning, names):
+    """The cells that an array needs, or has at most, as an expression; None for an array that is ignored."""
+    text = meaning.replace("`", "").removeprefix("at most ")
+    if text.startswith("is ignored"):
+        return None
+    if text.startswith("one cell"):
+        return "1"
+    tokens, at, best, depth, wants_operand = [], 0, None, 0, True
+    while match := TOKEN.match(text, at):
+        token = match[1] or match[2]
+        is_operand = bool(match[1]) and token != "x"
+        if token == "x" and wants_operand or is_operand and not (token.isdigit() or token in names or token in
+                                                                  ("max", "min", "sum")):
+            break
+        if is_operand != wants_operand and token not in "()":
+            break
+        depth += (token == "(") - (token == ")")
+        if depth < 0:
+            break
+        tokens.append(OPERATORS.get(token, token))
+        at = match.end()
+        # A name after which a parenthesis opens is a function; what follows an operand is an operator.
+        wants_operand = token not in (")",) and not (is_operand and token not in ("max", "min", "sum"))
+        if depth == 0 and not wants_operand:
+            best = " ".join(tokens)
+    return best or ""
+
+
+def sizes(entries, texts):
+    """For every array of every entry, by its position: the size as an expression."""
+    by_name = {name: by_hand(section)[0] for text in texts.values() for name, section in sections(text)[1]}
+    for entry in entries:
+        names = {p.name for p in entry.parameters}
+        for position, parameter in enumerate(entry.parameters):
+            if parameter.by_reference:
+                yield entry, position, size(by_name[entry.name][parameter.name], names)
+
+
+def faults(entries, texts):
+    """What a page lacks: the meaning of a parameter, the size of an array, or a worked example."""
+    for entry, position, cells in sizes(entries, texts):
+        if cells == "":
+            yield f"{entry.name}: how many cells {entry.parameters[position].name} has does not stand first"
     for path, text in texts.items():
         for name, section in sections(text)[1]:
             meanings, text_below = by_hand(section)

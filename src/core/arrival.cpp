@@ -1,7 +1,7 @@
 #include "core/arrival.h"
 
-#include <emmintrin.h>
 #include <algorithm>
+#include <emmintrin.h>
 
 #include "core/addressing.h"
 
