@@ -1,7 +1,7 @@
 // Variances, extremes and missing tests of a vector.
 
-#include <Eigen/Core>
 #include <emmintrin.h>
+#include <Eigen/Core>
 #include <memory>
 #include <vector>
 

@@ -13,6 +13,7 @@
 import re
 import subprocess
 import sys
+import tempfile
 from dataclasses import dataclass, field
 from pathlib import Path
 from textwrap import TextWrapper
@@ -352,15 +353,17 @@ def plain_names(names):
 
 def give_ordinals(objects):
     """What the objects mark for export and has no ordinal yet gets the next ones; ordinals given once stay."""
+    if not objects:
+        sys.exit("no objects given: build the target KAVORATB1C of the preset win32 first")
     marked = set()
-    for path in objects:
-        directives = subprocess.run(["objcopy", "-O", "binary", "--only-section=.drectve", path, "/dev/stdout"],
-                                    capture_output=True, check=True).stdout.decode()
-        marked |= set(re.findall(r'-export:"?_?(_Z\w+)', directives))
+    with tempfile.NamedTemporaryFile() as section:
+        for path in objects:
+            subprocess.run(["objcopy", "-O", "binary", "--only-section=.drectve", path, section.name], check=True)
+            marked |= set(re.findall(r'-export:"?_?(_Z\w+)', Path(section.name).read_bytes().decode()))
     natives = read_natives()
     gone = [name for _, name in natives if name not in marked]
     if gone:
-        sys.exit("exported before and no longer there: " + ", ".join(gone))
+        sys.exit(f"{len(gone)} exported before and no longer there: " + ", ".join(gone[:5]))
     new = sorted(marked - {name for _, name in natives})
     last = max((ordinal for ordinal, _ in natives), default=FIRST_NATIVE_ORDINAL - 1)
     natives += list(enumerate(new, last + 1))

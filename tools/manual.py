@@ -91,6 +91,8 @@ def pages(entries, folder, bridge):
     for entry in entries:
         if entry.name in placed:
             continue
+        if entry.name not in family:
+            raise SystemExit(f"{entry.name}: src/bridge/*_entries.cpp has no body for it")
         path = folder / family[entry.name]
         before = result.get(path, f"# {path.stem}\n")
         result[path] = before.rstrip("\n") + f"\n\n{head(entry, {})}\n{entry.help}\n"

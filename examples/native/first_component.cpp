@@ -1,8 +1,8 @@
 // First principal component of a table with missing cells, by alternating projection steps: rows regressed on
 // the loadings, columns on the scores, each over the cells that are there, until the loadings stand.
 
-#include <cstdio>
 #include <kavoratb1c/matrix.h>
+#include <cstdio>
 
 namespace {
 

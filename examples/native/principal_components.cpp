@@ -3,15 +3,15 @@
 //
 //     principal_components mtcars.csv
 
-#include <algorithm>
-#include <cstdio>
-#include <exception>
 #include <kavoratb1c/algebra/covariance.h>
 #include <kavoratb1c/algebra/products.h>
 #include <kavoratb1c/algebra/standardization.h>
 #include <kavoratb1c/decomp/eigen.h>
 #include <kavoratb1c/decomp/factors.h>
 #include <kavoratb1c/matrix.h>
+#include <algorithm>
+#include <cstdio>
+#include <exception>
 #include <stdexcept>
 
 #include "components_table.h"

@@ -2,13 +2,13 @@
 //
 //     regression FOLDER    with longley.csv, longley_certified.csv and mtcars.csv
 
-#include <algorithm>
-#include <cstdio>
-#include <exception>
 #include <kavoratb1c/algebra/covariance.h>
 #include <kavoratb1c/decomp/collinearity.h>
 #include <kavoratb1c/regression/least_squares.h>
 #include <kavoratb1c/regression/newton_raphson.h>
+#include <algorithm>
+#include <cstdio>
+#include <exception>
 #include <stdexcept>
 
 #include "coefficients_table.h"

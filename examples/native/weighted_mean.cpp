@@ -1,8 +1,8 @@
 // A native program: the weighted mean of a column with a missing cell.
 
-#include <cstdio>
 #include <kavoratb1c/matrix.h>
 #include <kavoratb1c/stats/vector_sums.h>
+#include <cstdio>
 
 int main() {
   const double prices[] = {12.5, kav::kMissing, 11.0, 14.25};

@@ -1,7 +1,7 @@
 // How workers make and fill their results. Internal.
 //
-// A result that is *refilled* starts with 0.0 in every cell, flagged ones included, in a container that has
-// just the shape; a result that is *kept* starts with what such a container holds. Otherwise the pointer
+// A result that is *refilled* has 0.0 wherever nothing is written to a container that has just the shape,
+// flagged cells included; a result that is *kept* has what such a container held. Otherwise the pointer
 // receives a new container, which belongs to the caller.
 #pragma once
 
@@ -41,6 +41,11 @@ inline void keep(matrix*& c, int rows, int columns) {
 /// Keeps a container of any shape.
 inline void keepAny(matrix*& c, int rows, int columns) {
   if (!addressing::designatesContainer(c)) c = new matrix(rows, columns);
+}
+
+/// Keeps a container of any shape that has room for a vector of that many cells.
+inline void keepWithRoom(matrix*& c, int cells) {
+  if (!addressing::designatesContainer(c) || addressing::cellCount(*c) < cells) c = new matrix(cells, 1);
 }
 
 /// Writes a result of one cell unless the caller has no place for it.

@@ -1,9 +1,9 @@
 // Looking at many rows at once: in most stretches nothing is missing or excluded. Internal.
 #pragma once
 
+#include <emmintrin.h>
 #include <cstddef>
 #include <cstdint>
-#include <emmintrin.h>
 
 #include "kavoratb1c/marker.h"
 

@@ -1,7 +1,7 @@
 #include "kavoratb1c/algebra/elementwise.h"
 
-#include <algorithm>
 #include <emmintrin.h>
+#include <algorithm>
 
 #include "access/results.h"
 #include "access/screening.h"

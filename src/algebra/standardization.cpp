@@ -18,6 +18,8 @@ using moments::Moments;
 
 namespace {
 
+double squareOf(double x) { return x * x; }
+
 /// A number, where it can be computed. It may be any, the marker too.
 struct Statistic {
   bool known = false;
@@ -304,15 +306,17 @@ void M_Standardize(const matrix* a, int n, int p, matrix*& out, matrix*& means, 
 
 int M_StandardizeKnownMeansStDev(const matrix* a, int n, int p, const matrix* means, matrix*& out,
                                  const matrix* stdevs, matrix*& variances, const short* rowFlags) {
-  results::refill(variances, p, 1);
-  const block::Values cells(a, n, p), centres(means, p), scales(stdevs, p);
+  const block::Values cells(a, n, p), centres(means, p), given(stdevs, p);
   const block::Flags missing(a, n, p);
   const usable::NotExcludedIfGiven used(rowFlags);
-  for (int j = 0; j < p; ++j) variances->setElement(j, scales[j] * scales[j]);
+  // The variances may take the place of the standard deviations.
+  const std::vector<double> scales(given.data(), given.data() + std::max(p, 0));
+  results::refill(variances, p, 1);
+  for (int j = 0; j < p; ++j) variances->setElement(j, squareOf(scales[static_cast<std::size_t>(j)]));
   results::keepAny(out, n, p);
   results::fillInto(out, n, p, [&](int j) {
     const usable::Present present(cells.column(j), missing.column(j));
-    return [=, centre = centres[j], scale = scales[j]](int i) {
+    return [=, centre = centres[j], scale = scales[static_cast<std::size_t>(j)]](int i) {
       return used(i) && present(i) ? standardized(present.x[i], centre, scale) : present.x[i];
     };
   });

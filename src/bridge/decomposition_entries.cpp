@@ -37,7 +37,7 @@ int entries::VB_M_CholDecompCleaned(double* iMat, int p, int* iConstraints, doub
 
 void entries::VB_M_LUDecomp(double* iAMat, int n, int* indx, double* d, VARIANT_BOOL* Problem) {
   InOutTable a(iAMat, n, n);
-  OutInts index(indx, n, 1);
+  OutInts index(required(indx, n, 1), n, 1);
   OutDouble parity(d);
   OutFlag status(Problem);
   M_LUDecomp(a, n, index, parity, status);
@@ -89,7 +89,12 @@ int entries::VB_M_Gauss(double* ioMat1, int n, int p, double* ioMat2) {
   return status;
 }
 
-int entries::VB_V_Gauss(double* ioMat, int n, double* ioVect) { return VB_M_Gauss(ioMat, n, 1, ioVect); }
+int entries::VB_V_Gauss(double* ioMat, int n, double* ioVect) {
+  InOutTable a(ioMat, n, n), b(ioVect, n, 1);
+  const int status = M_Gauss(a, n, 1, b);
+  store(a, b);
+  return status;
+}
 
 int entries::VB_M_Sweep(double* t, int n, int k) {
   InOutTable table(t, n < 1 ? 0 : packed::cellsOf(n), 1);

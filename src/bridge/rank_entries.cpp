@@ -1,4 +1,4 @@
-// Entries of the vector family: quantiles, ranks, frequencies.
+// Entries of quantiles, ranks and frequencies.
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"

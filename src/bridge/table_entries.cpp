@@ -66,7 +66,10 @@ void entries::VB_M_PasteBlock(double* iMat, int n, int p, double* ioMat, int n2,
 }
 
 void entries::VB_M_CopyToBigger(double* iMat, int n, int p, double* oMat, int nOut, int pOut) {
-  VB_M_PasteBlock(iMat, n, p, oMat, nOut, pOut, 1, 1);
+  const InTable a(iMat, n, p, Cells::KeepAll);
+  InOutTable table(oMat, nOut, pOut, InPlaceUnlessRead(a));
+  M_CopyToBigger(a, n, p, table, nOut, pOut);
+  store(table);
 }
 
 void entries::VB_M_CopyResize(double* iMat, int n, int p, double* oMat, int n2, int p2) {
@@ -84,11 +87,17 @@ void entries::VB_M_CopyResizeStr(BSTR* iMat, int n, int p, BSTR* oMat, int n2, i
 }
 
 void entries::VB_M_ExtractMatToMatDbl(double* iMat, int n, int p, int nStart, int nEnd, double* oMat) {
-  VB_M_CopyBlock(iMat, n, p, nStart, nEnd, 1, p, oMat);
+  const InTable a(iMat, n, p, Cells::KeepAll);
+  OutTable rows(oMat, Range(n, nStart, nEnd).count(), p, InPlaceUnlessRead(a));
+  M_ExtractMatToMat(a, n, p, nStart, nEnd, rows);
+  store(rows);
 }
 
 void entries::VB_M_ExtractMatToMatByColDbl(double* iMat, int n, int p, int pStart, int pEnd, double* oMat) {
-  VB_M_CopyBlock(iMat, n, p, 1, n, pStart, pEnd, oMat);
+  const InTable a(iMat, n, p, Cells::KeepAll);
+  OutTable columns(oMat, n, Range(p, pStart, pEnd).count(), InPlaceUnlessRead(a));
+  M_ExtractMatToMatByCol(a, n, p, pStart, pEnd, columns);
+  store(columns);
 }
 
 void entries::VB_M_ExtractMatToMatStr(BSTR* iMat, int n, int p, int nStart, int nEnd, BSTR* oMat) {

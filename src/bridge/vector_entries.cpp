@@ -1,4 +1,4 @@
-// Entries of the vector family: sums, means, variances, shape, fit.
+// Entries of vector statistics: sums, means, variances, shape, fit.
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"

@@ -1,4 +1,4 @@
-// Entries of the vector family: extremes, counts, tests.
+// Entries of vector extremes, counts and predicates.
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"

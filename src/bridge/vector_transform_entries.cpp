@@ -1,4 +1,4 @@
-// Entries of the vector family: fills, copies, scales, products.
+// Entries of vectors filled, copied, scaled and multiplied.
 
 #include "bridge/arguments.h"
 #include "bridge/generated/entries.h"

@@ -1,11 +1,15 @@
 #include "core/arrival.h"
 
-#include <algorithm>
 #include <emmintrin.h>
+#include <algorithm>
+#include <bit>
 
 #include "core/addressing.h"
 
 namespace kav::arrival {
+
+static_assert(std::bit_cast<std::uint64_t>(kMissing) == 0xFFEFFFFFFFFFFFE2,
+              "the marker of the spreadsheet side");
 
 namespace {
 

@@ -29,15 +29,14 @@ struct Job {
   int columnSteps() const { return std::min(n - 1, p); }
   int rowSteps() const { return std::max(0, std::min(p - 2, n)); }
 
-  /// Of the bidiagonal table.
+  /// Of the bidiagonal matrix.
   int order() const { return n < p ? n + 1 : p; }
 };
 
-/// A bidiagonal table of job.order() rows, 1-based: the diagonal s, above it e.
+/// A bidiagonal matrix of job.order() rows, 1-based: the diagonal s, above it e.
 ///
-/// @tparam Vectors  rotateLeft(j, k, c, s), rotateRight(...), negateRight(j), swapLeft(j) and swapRight(j),
-/// the
-///                  latter with column j + 1
+/// @tparam Vectors  rotateLeft(j, k, c, s), rotateRight(j, k, c, s), negateRight(j); swapLeft(j) and
+///                  swapRight(j), with column j + 1
 template <class Vectors>
 class QrSteps {
  public:

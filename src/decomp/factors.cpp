@@ -69,7 +69,7 @@ int FilterEigen(matrix*& values, int n, short drop, double minimum, double cumul
 }
 
 void cComputeCosines(const matrix* f, int n, int q, matrix*& cosines) {
-  if (cosines == nullptr) results::keep(cosines, n, q);
+  results::keepAny(cosines, n, q);
   if (n < 1 || q < 1) return;
   const block::Values cells(f, n, q);
   matrix squares(n, 1, 0.0);

@@ -49,7 +49,7 @@ void invertUpper(Triangle t, int n, double* cells) {
 }  // namespace
 
 int M_InverseTriang(const matrix* t, int n, short lower, matrix*& inverse, double tolerance) {
-  if (inverse == nullptr) results::keep(inverse, n, n);
+  results::keepAny(inverse, n, n);
   if (n < 1) return 0;
   const block::Values cells(t, n, n);
   for (int i = 0; i < n; ++i) {

@@ -7,6 +7,7 @@
 
 #include "access/block.h"
 #include "access/checked_elements.h"
+#include "access/results.h"
 #include "decomp/kept.h"
 #include "numerics/lu_panels.h"
 #include "numerics/plain_elements.h"
@@ -122,7 +123,7 @@ double productOf(int n, Cell cell) {
 void M_LUDecomp(matrix*& a, int n, matrix*& index, double& parity, short& status) {
   status = 0;
   parity = 1.0;
-  if (index == nullptr) index = new matrix(std::max(n, 0), 1, 0.0);
+  results::keepAny(index, std::max(n, 0), 1);
   if (n < 1) return;
   Copy copy(a, n);
   Exchanges exchanges(n);

@@ -24,7 +24,7 @@ class Panel {
   double& at(std::ptrdiff_t row, std::ptrdiff_t lane) { return cells_[lanes_ * row + lane]; }
   void clear() { std::fill_n(cells_.data(), cells_.size(), 0.0); }
 
-  /// Reflections begin .. end-1. While a row takes one, the sum for the next goes on with it.
+  /// Reflections begin .. end-1. While a row takes one, it is added to the sum for the next.
   void apply(const std::vector<Reflector>& order, std::size_t begin, std::size_t end) {
     if (begin >= end) return;
     clearSums();

@@ -124,7 +124,7 @@ class ShapeMoments {
   double fourth_ = 0.0;
 };
 
-/// Which of the three denominators a variance has. Options count at -1 only: a 1 is off.
+/// Which of the three denominators a variance has. Options are on only when -1: a 1 is off.
 struct Denominator {
   bool unbiased;
   bool biasIsOne;

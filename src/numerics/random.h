@@ -26,7 +26,7 @@ class RandomNumbers {
   /// A whole number from 0 .. n-1, every one exactly as likely as the others; n at least 1.
   int below(int n);
 
-  /// A seed for a next call, which goes on with fresh draws: a chain of calls comes back to its first seed
+  /// A seed for a next call, for fresh draws: a chain of calls comes back to its first seed
   /// only after all 2^32 of them. Null takes nothing.
   void GetSeedUpdate(std::int32_t* next) const;
 

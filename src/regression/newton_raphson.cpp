@@ -17,7 +17,7 @@ int cNewtonRaphson(matrix*& parameters, int p, const matrix* excluded, const mat
                    double largest) {
   if (parameters == nullptr || p < 1) return 1;
   if (cCleanConstraintsAndInvert(p, excluded, hessian, inverse) < 0) return -1;
-  if (errors == nullptr) results::keep(errors, p, 1);
+  results::keepAny(errors, p, 1);
 
   matrix step(p, 1, 0.0);
   M_ProductBV(inverse, p, p, gradient, &step);

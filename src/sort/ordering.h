@@ -1,9 +1,9 @@
-// The order of rows by key, sorted vectors and order statistics: the means of all sorts. Internal.
+// The order of rows by key, sorted vectors, order statistics: what all sorts are made of. Internal.
 //
 // Which order rows come out in is defined by an ordered multimap that is filled with (key, row): a new entry
 // goes behind all entries of equal key. Descending fills it from the last row and walks it backward, so ties
 // keep their input order both ways. Any stable sort gives the same order, and a quick one is used, unless a
-// key is NaN, for which a sort has no defined result; then the multimap is also the means.
+// key is NaN, for which a sort has no defined result; then the multimap itself is used.
 #pragma once
 
 #include "numerics/scratch.h"

@@ -23,11 +23,10 @@ int commonRows(const Container* table, int tableRows, int columns) {
   return table == nullptr || columns < 1 ? tableRows : std::min(tableRows, table->nX);
 }
 
-/// What both forms of SortQ do but for the way their data move.
+/// What both forms of SortQ share: all but the way their data move.
 ///
 /// @param move     moves the rows of the data
-/// @param numbers  the data where they are numbers, else null: keys that are their first column move with
-/// them
+/// @param numbers  the data where they are numbers, else null: keys that are their first column move too
 template <class Move>
 void sortByKeys(const Range& span, const matrix* numbers, matrix* keys, matrix* companion,
                 int companionColumns, short descending, short writeKeysBack, Move move) {

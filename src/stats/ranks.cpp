@@ -56,8 +56,7 @@ void ranksWithTies(const matrix* x, int n, const matrix* w, matrix*& ranks, int*
   const std::vector<int> sizes =
       ranksWithTies(cells.data(), n, w == nullptr ? nullptr : weights.data(), target.data(), rounded);
   const auto count = static_cast<int>(sizes.size());
-  const bool hasRoom = addressing::designatesContainer(tieSizes) && addressing::cellCount(*tieSizes) >= count;
-  if (!hasRoom) tieSizes = new matrix(count, 1);
+  results::keepWithRoom(tieSizes, count);
   block::Target groups(tieSizes, count);
   std::copy(sizes.begin(), sizes.end(), groups.data());
   target.store();

@@ -206,6 +206,16 @@ TEST(Standardization, KnownStatisticsMayBeAnyAndTheTableItsOwnResult) {
   }
 }
 
+TEST(Standardization, KnownStandardDeviationsMayBecomeTheirVariances) {
+  const double cells[] = {3.0, 5.0, 9.0, 1.0}, sds[] = {2.0, 4.0};
+  const matrix table(2, 2, cells, true, 0, 0), means(2, 1, 1.0);
+  matrix stdevs(2, 1, sds, true, 0, 0), *variances = &stdevs, *out = nullptr;
+  M_StandardizeKnownMeansStDev(&table, 2, 2, &means, out, &stdevs, variances, nullptr);
+  EXPECT_TRUE(holds(*out, 2, 2, {1.0, 2.0, 2.0, 0.0}));
+  EXPECT_TRUE(holds(stdevs, 2, 1, {4.0, 16.0}));
+  delete out;
+}
+
 TEST(Standardization, ByVectIsTheVectorMemberColumnByColumn) {
   Random random(54);
   for (int round = 0; round < 40; ++round) {

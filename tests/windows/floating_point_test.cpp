@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <xmmintrin.h>
+#include <cmath>
 
 #include "windows/any_entry.h"
 

@@ -1,11 +1,11 @@
 // Replaces a function that a loaded module imports, until the end of the object's life.
 #pragma once
 
+#include <windows.h>
 #include <cstdint>
 #include <cstring>
 #include <stdexcept>
 #include <string>
-#include <windows.h>
 
 class ImportPatch {
  public:

@@ -25,7 +25,8 @@
 // rows, so that a correlation may exceed 1 in absolute value.
 //
 // *refilled*: a container of just that shape is refilled with 0.0 (a flagged cell keeps 0.0: later writes to
-// it are dropped); any other pointer receives a new container, which belongs to the caller.
+// it are dropped); any other pointer receives a new container, which belongs to the caller. Results must be
+// other containers than the operands.
 #pragma once
 
 #include "kavoratb1c/export.h"

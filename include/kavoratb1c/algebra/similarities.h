@@ -12,9 +12,9 @@
 /// enter by their values.
 ///
 /// @param a          n x p
-/// @param distances  out: n x n, or p x p when byRows is 0. A container of just that shape is refilled with
-///                   0.0 (a flagged cell keeps 0.0: later writes to it are dropped); any other pointer
-///                   receives a new container, which belongs to the caller.
+/// @param distances  out, another container than a: n x n, or p x p when byRows is 0. One of just that shape
+///                   is refilled with 0.0 (a flagged cell keeps 0.0: later writes to it are dropped); any
+///                   other pointer receives a new container, which belongs to the caller.
 /// @param weights    p weights, n when byRows is 0; null: 1.0 each
 /// @param byRows     0: between columns; any other value: between rows
 KAV_API void M_EuclidDist2(const matrix* a, int n, int p, matrix*& distances, const matrix* weights,

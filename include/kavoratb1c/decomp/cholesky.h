@@ -11,8 +11,8 @@
 /// Terms are subtracted one by one, k = i-1 down to 1.
 ///
 /// @param a  leading n x n block; only A(i,j) with j >= i is read; a cell outside the container reads -1.0
-/// @param l  out, n x n, refilled with 0.0 (a container of another shape is replaced by a new one); a flagged
-///           cell keeps 0.0, and that is what later sums take
+/// @param l  out, n x n, another container than a; refilled with 0.0, or replaced by a new one when its shape
+///           differs; a flagged cell keeps 0.0, and later sums take that
 /// @return 0; -1 as soon as a term below the root is negative, or a root of 0.0 would divide: the columns
 ///         before it are complete then. A root of 0.0 in the last row divides nothing and is accepted. n < 1:
 ///         0.

@@ -11,7 +11,8 @@
 ///
 /// @param a        leading n x n block; only its lower triangle is read; a cell outside the container reads
 ///                 -1.0
-/// @param values   out, n x 1, refilled (a container of another shape is replaced by a new one)
+/// @param values   out, n x 1, refilled (a container of another shape is replaced by a new one); like vectors
+///                 another container than a
 /// @param vectors  out, n x n, refilled likewise: column k belongs to value k
 /// @param sort     non-zero: decreasing values, by SortQ
 /// @return 0; -1 when a value needs more than 28 steps, with both results part-way

@@ -11,8 +11,9 @@
 ///
 /// @param t          leading n x n block; a cell outside the container reads -1.0
 /// @param lower      non-zero: T is lower triangular
-/// @param inverse    out, n x n; its other triangle is not written. The container is kept; a null pointer
-///                   receives a new one. A flagged cell keeps what it holds, and later sums take that.
+/// @param inverse    out, n x n, another container than t; its other triangle is not written. The container
+///                   is kept; a null pointer receives a new one. A flagged cell keeps what it holds, and
+///                   later sums take that.
 /// @param tolerance  a diagonal cell below it in absolute value has no reciprocal
 /// @return 0; -1 at such a cell, with the reciprocals before it written
 KAV_API int M_InverseTriang(const matrix* t, int n, short lower, matrix*& inverse, double tolerance);

@@ -1,7 +1,7 @@
 // Vectors and flags filled.
 //
-// *refilled*: a container of just n x 1 cells receives the given value in every cell, flagged ones included,
-// and keeps its flags; any other pointer receives a new container, which belongs to the caller.
+// A container of just n x 1 cells is set to the value in every cell, flagged ones included, and keeps its
+// flags; any other pointer receives a new container, which belongs to the caller.
 #pragma once
 
 #include <string>
@@ -10,12 +10,12 @@
 #include "kavoratb1c/export.h"
 #include "kavoratb1c/matrix.h"
 
-/// v = n cells of value x (refilled). Both functions do the same.
+/// v = n cells of value x. Both functions do the same.
 /// @return 0
 KAV_API int SetVectorToValue(matrix*& v, int n, double x);
 KAV_API int V_SetToValue(matrix*& v, int n, double x);
 
-/// v = n cells of 0.0 (refilled).
+/// v = n cells of 0.0.
 /// @return 0
 KAV_API int InitVectorToFalse(matrix*& v, int n);
 
@@ -27,5 +27,5 @@ KAV_API int InitVARIANTBOOLToFalse(short* a, int n);
 /// @return 0
 KAV_API int V_Set1toN(matrix*& v, int n);
 
-/// v = n strings s (refilled).
+/// v = n strings s.
 KAV_API void V_SetToValueStr(Smatrix*& v, int n, const std::u16string& s);
