@@ -7,36 +7,46 @@
 
 namespace kav::usable {
 
+/// Row weights as loops want them: by value, without a branch.
+struct WeightOf {
+  double operator()(std::ptrdiff_t i) const { return cells[i * step]; }
+
+  const double* cells;
+  std::ptrdiff_t step;
+};
+
 /// The first n row weights; 1.0 each without a container.
 class RowWeights {
  public:
-  RowWeights(const matrix* w, int n) : given_(w, w == nullptr ? 0 : n), cells_(given_.data()) {}
+  RowWeights(const matrix* w, int n) : isGiven_(w != nullptr), given_(w, isGiven_ ? n : 0) {}
 
-  double operator[](std::ptrdiff_t i) const { return cells_ == nullptr ? 1.0 : cells_[i]; }
+  double operator[](std::ptrdiff_t i) const { return of()(i); }
+  WeightOf of() const { return isGiven_ ? WeightOf{given_.data(), 1} : WeightOf{&kOne, 0}; }
 
  private:
+  static constexpr double kOne = 1.0;
+
+  bool isGiven_;
   block::Values given_;
-  const double* cells_;
 };
 
 /// A rule for rows, which also have to have a weight.
 template <class Rule>
 struct TakesPart {
-  bool operator()(std::ptrdiff_t i) const { return rule(i) && weights[i] != 0.0; }
+  TakesPart(Rule ruleOfRows, const RowWeights& weights) : rule(ruleOfRows), weightOf(weights.of()) {}
+
+  bool operator()(std::ptrdiff_t i) const { return rule(i) && weightOf(i) != 0.0; }
 
   Rule rule;
-  const RowWeights& weights;
+  WeightOf weightOf;
 };
-
-template <class Rule>
-TakesPart(Rule, const RowWeights&) -> TakesPart<Rule>;
 
 /// visit(i, w) for the rows i of weight w that take part, in order.
 template <class Rule, class Visit>
 void forEachTakingPart(int n, Rule rule, const RowWeights& weights, Visit visit) {
-  const TakesPart takesPart{rule, weights};
+  const TakesPart takesPart(rule, weights);
   for (int i = 0; i < n; ++i) {
-    if (takesPart(i)) visit(i, weights[i]);
+    if (takesPart(i)) visit(i, takesPart.weightOf(i));
   }
 }
 

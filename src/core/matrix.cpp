@@ -9,7 +9,10 @@
 
 using namespace kav;
 
-matrix::matrix(int rows, int columns) : matrix(rows, columns, 0.0) {}
+matrix::matrix(int rows, int columns) {
+  storage::build(*this, storage::kNoRoom, rows, columns);
+  std::fill_n(values, addressing::cellCount(*this), 0.0);
+}
 
 matrix::matrix(int rows, int columns, int v) : matrix(rows, columns, static_cast<double>(v)) {}
 

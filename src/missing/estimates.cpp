@@ -42,14 +42,14 @@ void EstimateRowsWithMissingMeanPred(const matrix* learned, int m, matrix* a, in
   const block::Values values(learned, m, p);
   const block::Flags flagged(learned, m, p);
   const usable::RowWeights weights(w, m);
-  const usable::TakesPart takesPart{usable::NotExcludedIfGiven(flags), weights};
+  const usable::TakesPart takesPart(usable::NotExcludedIfGiven(flags), weights);
   fillColumns(
       a, n, p,
       [&](int j) {
         const usable::Present present(values.column(j), flagged.column(j));
         return weightedMean(
-            m, [&](int i) { return takesPart(i) && present(i); }, [&](int i) { return present.x[i]; },
-            [&](int i) { return weights[i]; });
+            m, [=](int i) { return takesPart(i) && present(i); }, [=](int i) { return present.x[i]; },
+            weights.of());
       },
       [](double mean) { return std::isfinite(mean); });
 }
@@ -61,7 +61,7 @@ void EstimateRowsWithMissingMode(Smatrix* a, int n, int p, const short* flags, c
 void EstimateRowsWithMissingModePred(const Smatrix* learned, int m, Smatrix* a, int n, int p,
                                      const short* flags, const matrix* w) {
   const usable::RowWeights weights(w, m);
-  const usable::TakesPart takesPart{usable::NotExcludedIfGiven(flags), weights};
+  const usable::TakesPart takesPart(usable::NotExcludedIfGiven(flags), weights);
   fillColumns(
       a, n, p,
       [&](int j) {
