@@ -11,6 +11,8 @@ using namespace kav;
 
 namespace {
 
+using definitions::WeightedUpdate;
+
 constexpr int kMost = std::numeric_limits<int>::max();
 
 /// Statistics of a column, where they can be computed.
@@ -235,30 +237,28 @@ TEST(Standardization, ByVectIsTheVectorMemberColumnByColumn) {
   }
 }
 
-TEST(Standardization, WithoutCellsPreparesStatisticsAndChangesNothingElse) {
+TEST(Standardization, WithoutCellsRefillsStatisticsAndChangesNothingElse) {
   using C = matrix*&;
   const matrix v(3, 1, 0.5);
   matrix t(3, 2, 2.385), *a = &t, *r[4] = {};
-  const struct {
-    const char* name;
-    std::function<void(int, int, C)> run;
-  } workers[] = {
-      {"p1 Mean", [&](int i, int j, C c) { M_Mean(a, i, j, c, nullptr, &v); }},
-      {"p1 StDev", [&](int i, int j, C c) { M_MeanStDev(a, i, j, c, r[3], nullptr, &v, 0, 0, 0); }},
-      {"p1 Var", [&](int i, int j, C c) { M_MeanStDevVar(a, i, j, r[0], r[1], c, nullptr, &v, 0, 0); }},
-      {"p1 Norms", [&](int i, int j, C c) { M_Normalize(a, i, j, c, nullptr, &v, 0, 0); }},
-      {"  pNormalize", [&](int i, int j, C c) { M_Normalize(c, i, j, r[0], nullptr, &v, 0, 0); }},
-      {"  pOwn", [&](int i, int j, C c) { M_Standardize3(c, i, j, r[0], r[1], 0); }},
-      {"np All", [&](int i, int j, C c) { M_Standardize(a, i, j, c, r[0], r[1], r[2], nullptr, &v, 0, 0); }},
-      {"  pKnown",
-       [&](int i, int j, C c) { M_StandardizeKnownMeansStDev(a, i, j, &v, c, &v, r[0], nullptr); }},
-      {"  +ByVect", [&](int i, int j, C c) { M_StandardizeByVect(a, i, j, nullptr, &v, 0, c); }},
-      {"  +ByVect", [&](int i, int j, C c) { M_RescaleByVect(a, i, j, 0.0, 1.0, nullptr, c); }}};
-  for (const auto& worker : workers) {
-    WorkerCheck{3, 2, 0}.withoutCells(worker.name, [&](int i, int j, C c) {
-      worker.run(i, j, c);
-      for (matrix*& made : r) delete std::exchange(made, nullptr);
+  const Result statistics = {kP, kOne}, table = {kN, kP}, own = {kNone, kNone, kWritten},
+               besideStatistics = {kNone, kNone, kWritten, kP};
+  const auto expect = [&](Result made, auto run) {
+    WorkerCheck{3, 2}.withoutCells(made, [&](int i, int j, C c) {
+      run(i, j, c);
+      for (matrix*& other : r) delete std::exchange(other, nullptr);
     });
-  }
+  };
+  expect(statistics, [&](int i, int j, C c) { M_Mean(a, i, j, c, nullptr, &v); });
+  expect(statistics, [&](int i, int j, C c) { M_MeanStDev(a, i, j, c, r[3], nullptr, &v, 0, 0, 0); });
+  expect(statistics, [&](int i, int j, C c) { M_MeanStDevVar(a, i, j, r[0], r[1], c, nullptr, &v, 0, 0); });
+  expect(statistics, [&](int i, int j, C c) { M_Normalize(a, i, j, c, nullptr, &v, 0, 0); });
+  expect(besideStatistics, [&](int i, int j, C c) { M_Normalize(c, i, j, r[0], nullptr, &v, 0, 0); });
+  expect(besideStatistics, [&](int i, int j, C c) { M_Standardize3(c, i, j, r[0], r[1], 0); });
+  expect(table, [&](int i, int j, C c) { M_Standardize(a, i, j, c, r[0], r[1], r[2], nullptr, &v, 0, 0); });
+  expect(besideStatistics,
+         [&](int i, int j, C c) { M_StandardizeKnownMeansStDev(a, i, j, &v, c, &v, r[0], nullptr); });
+  expect(own, [&](int i, int j, C c) { M_StandardizeByVect(a, i, j, nullptr, &v, 0, c); });
+  expect(own, [&](int i, int j, C c) { M_RescaleByVect(a, i, j, 0.0, 1.0, nullptr, c); });
   EXPECT_TRUE(holds(t, 3, 2, std::vector<double>(6, 2.385)));
 }

@@ -1,11 +1,14 @@
 #include "kernels/kernels.h"
 
+#include "definitions/nearest_neighbours.h"
 #include "support/corpus.h"
 #include "support/tables.h"
 
 using namespace kav;
 
 namespace {
+
+using definitions::WeightedUpdate;
 
 using Cells = std::vector<double>;
 using kernels::Product, kernels::View;
@@ -185,9 +188,8 @@ TEST(Kernels, DistancesEqualTheirDefinitionBitForBit) {
       for (int j = 0; j < columns; ++j) row.push_back(cell()), ranges.push_back(few[random.below(6)]);
       for (int k = 0; k < lanes * columns; ++k) {
         const int lane = k % lanes, j = k / lanes;
-        const double x = row[j], y = rows[lane + stride * j];
-        const double d = ranges[j] > 0.0 ? (x - y) / ranges[j] : x == y ? 0.0 : 1.0;
-        expected[lane] += std::isnan(d) ? 1.0 : d * d;
+        const double d = definitions::difference(row[j], rows[lane + stride * j], ranges[j]);
+        expected[lane] += d * d;
       }
       const double least = *std::min_element(expected.begin(), expected.end() - 1);
       const double bounds[] = {least, std::nextafter(least, 1e9), expected[0], HUGE_VAL, 0.0, least / 2.0,
