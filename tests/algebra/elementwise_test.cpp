@@ -66,7 +66,10 @@ TEST(Elementwise, EqualsItsDefinitionBitForBit) {
         bool found = false;
         double best = kMissing;
         for (int i = 1; i <= n; ++i) {
-          if (isUsed(i, j) && (!found || sign * x(i, j) > sign * best)) found = true, best = x(i, j);
+          if (isUsed(i, j) && (!found || sign * x(i, j) > sign * best)) {
+            found = true;
+            best = x(i, j);
+          }
         }
         return best;
       };

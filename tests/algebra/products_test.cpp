@@ -59,7 +59,10 @@ TEST(Products, EqualTheirDefinitionBitForBit) {
     matrix *A = operand(n, p), *PQ = operand(p, q), *QP = operand(q, p), *NQ = operand(n, q);
     matrix *PP = operand(p, p), *NN = operand(n, n), *U = operand(n, 1), *V = operand(p, 1);
     // Singular, since pivots up to 1e-8 are zero.
-    if (round % 4 == 0) PP->SProd(0, 1e-10), NN->SProd(0, 1e-10);
+    if (round % 4 == 0) {
+      PP->SProd(0, 1e-10);
+      NN->SProd(0, 1e-10);
+    }
     const auto a = at(A), nq = at(NQ), u = at(U), v = at(V);
     const auto ta = transposed(A);
     const auto onV = [v](int k) { return v(k, 1); };
@@ -106,7 +109,8 @@ TEST(Products, EqualTheirDefinitionBitForBit) {
     // Two factors first, then the third; in the middle a table or its inverse.
     for (const bool inverted : {false, true}) {
       matrix P(p, p, 0.0), N(n, n, 0.0), left(n, p, 0.0), tLeft(p, n, 0.0), right(n, 1, 0.0);
-      byDefinition(P, p, p, at(PP)), byDefinition(N, n, n, at(NN));
+      byDefinition(P, p, p, at(PP));
+      byDefinition(N, n, n, at(NN));
       if (inverted) {
         short state = 0;  // without an inverse zeros
         if (P.inverse1(&P, state, 1e-12) != 0) std::fill_n(P.values, p * p, 0.0);

@@ -48,7 +48,10 @@ TEST(Qualitative, SummariesAndFrequenciesAreAsDefined) {
       modes.push_back(mode == of.end() ? u"" : mode->first);
       heaviest.push_back(mode == of.end() ? 0.0 : mode->second);
       counts.push_back(double(of.size()));
-      for (const auto& text : order) list.push_back(text), weights.push_back(of[text]);
+      for (const auto& text : order) {
+        list.push_back(text);
+        weights.push_back(of[text]);
+      }
     }
     Smatrix *modesIs = nullptr, *listIs = nullptr;
     matrix *foundIs = nullptr, *heaviestIs = nullptr, *countsIs = nullptr, *weightsIs = nullptr;
@@ -62,8 +65,12 @@ TEST(Qualitative, SummariesAndFrequenciesAreAsDefined) {
     EXPECT_TRUE(firstOf(modesIs->cells, modesIs->nX) == modes && firstOf(listIs->cells, listIs->nX) == list);
     EXPECT_TRUE(holds(*foundIs, int(found.size()), 1, found) && holds(*heaviestIs, p, 1, heaviest));
     EXPECT_TRUE(holds(*countsIs, p, 1, counts) && holds(*weightsIs, int(list.size()), 1, weights));
-    delete modesIs, delete listIs, delete foundIs;
-    delete heaviestIs, delete countsIs, delete weightsIs;
+    delete modesIs;
+    delete listIs;
+    delete foundIs;
+    delete heaviestIs;
+    delete countsIs;
+    delete weightsIs;
   }
 }
 
@@ -77,5 +84,9 @@ TEST(Qualitative, ManyKindsTakeNoLonger) {
   EXPECT_EQ(std::adjacent_find(list->cells, list->cells + n / 2, std::greater_equal<>()),
             list->cells + n / 2);
   EXPECT_TRUE(holds(*heaviest, 1, 1, {2.0}) && modes->cells[0] == table.cells[249]);
-  delete modes, delete list, delete heaviest, delete counts, delete weights;
+  delete modes;
+  delete list;
+  delete heaviest;
+  delete counts;
+  delete weights;
 }

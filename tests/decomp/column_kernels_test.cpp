@@ -26,7 +26,8 @@ TEST(ColumnKernels, EqualPlainLoops) {
         const int placeX = rowX - 1 + 7 * (column - 1) + k * every,
                   placeY = rowY - 1 + 5 * (j - 1) + k * step;
         const double oldX = copyX->getElement(placeX), oldY = copyY->getElement(placeY);
-        copyX->setElement(placeX, newX(oldX, oldY)), copyY->setElement(placeY, newY(oldY, oldX));
+        copyX->setElement(placeX, newX(oldX, oldY));
+        copyY->setElement(placeY, newY(oldY, oldX));
       }
       run();
       EXPECT_TRUE(bits::equal(cellsOf(*x), cellsOf(*copyX)) && bits::equal(cellsOf(*y), cellsOf(*copyY)));

@@ -185,7 +185,10 @@ TEST(Kernels, DistancesEqualTheirDefinitionBitForBit) {
       const auto cell = [&] { return random.below(20) < round % 13 ? few[2] : random.below(4) / 0.7; };
       Cells rows, row, ranges, expected(lanes + 1, 0.0), squared(lanes + 1, 0.0);
       for (int k = 0; k < stride * columns; ++k) rows.push_back(cell());
-      for (int j = 0; j < columns; ++j) row.push_back(cell()), ranges.push_back(few[random.below(6)]);
+      for (int j = 0; j < columns; ++j) {
+        row.push_back(cell());
+        ranges.push_back(few[random.below(6)]);
+      }
       for (int k = 0; k < lanes * columns; ++k) {
         const int lane = k % lanes, j = k / lanes;
         const double d = definitions::difference(row[j], rows[lane + stride * j], ranges[j]);

@@ -117,7 +117,8 @@ TEST(NearestNeighbours, ByHand) {
   const matrix rows(4, 3, cells, true, 0, 0), w(4, 1, weights, true, 0, 0);
   for (const bool weighted : {false, true}) {
     const auto filled = copyOf(rows);
-    filled->setElement(1, 1, weighted ? 30.0 : 10.0), filled->setElement(3, 2, weighted ? 0.0 : 1.0);
+    filled->setElement(1, 1, weighted ? 30.0 : 10.0);
+    filled->setElement(3, 2, weighted ? 0.0 : 1.0);
     Tables t(rows, 1, 1);
     EstimateRowsWithMissingNN(&t.first, 4, 1, nullptr, &t.second, 1, &t.labels, 1, weighted ? &w : nullptr);
     t.expectEqual({*filled, 1, 1});

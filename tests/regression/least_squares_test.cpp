@@ -129,6 +129,20 @@ TEST(LeastSquares, ErrorsNeedDegreesOfFreedomAndAllResultsADeviation) {
   }
 }
 
+// The second column is the first one and half of another that is orthogonal to it: a fifth of its variance is
+// left. So is what explains the response, 4 + 2 x + 3 z, but for residuals of 0.5.
+TEST(LeastSquares, VariablesThatOthersExplainAreLeftOut) {
+  const auto x = square::cells(4, 2, {-1, -1, 1, 1, -1.5, -0.5, 0.5, 1.5}),
+             y = square::cells(4, 1, {-0.5, 4.5, 2.5, 9.5});
+  const double residual = std::sqrt(37.0 / 4.0);
+  const Fit whole(4, 2, *x, *y, matrix(4, 1, 1.0), {1, 0, 0, 0.19}),
+      first(4, 2, *x, *y, matrix(4, 1, 1.0), {1, 0, 0, 0.21});
+  expectNear(*whole.b, *square::cells(3, 1, {-4, 6, 4}));
+  expectNear(*whole.se, *square::cells(3, 1, {std::sqrt(1.25), 1, 0.5}));
+  expectNear(*first.b, *square::cells(3, 1, {2, 0, 4}));
+  expectNear(*first.se, *square::cells(3, 1, {residual, 0, residual}));
+}
+
 // Digits that agree with the certified values. Degrees of freedom count an intercept even where there is
 // none: n - 2 instead of n - 1.
 TEST(LeastSquares, CertifiedSets) {

@@ -221,7 +221,10 @@ TEST(Sorts, VectorsComeInOrderAndDescendingReversed) {
     // A container knows its cells itself, here in two columns; flagged ones keep what they hold.
     matrix m(n / 2, 2, before.data(), true, 0, 0), *argument = &m;
     Cells kept = sortedByDefinition(cellsOf(m), from, to, option, precedes);
-    for (std::size_t k = 0; k < kept.size(); k += 19) m.missing[k] = true, kept[k] = before[k];
+    for (std::size_t k = 0; k < kept.size(); k += 19) {
+      m.missing[k] = true;
+      kept[k] = before[k];
+    }
     EXPECT_EQ(SortQVector(argument, -3, from, to, option), 0);
     EXPECT_TRUE(bits::equal(cellsOf(m), kept));
     std::vector<int> integers, places;
@@ -261,5 +264,7 @@ TEST(Sorts, OrdersAreTruncatedAndRowsOutsideAreMinusOneOrEmpty) {
     EXPECT_EQ(there->values[k], row == 0 ? -1.0 : source.vbget(row, c)) << k;
     EXPECT_EQ(labelsThere->cells[k], row == 0 ? u"" : labels.vbget(row, c)) << k;
   }
-  delete there, delete back, delete labelsThere;
+  delete there;
+  delete back;
+  delete labelsThere;
 }
