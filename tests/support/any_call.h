@@ -4,16 +4,13 @@
 
 #include <deque>
 #include <string>
-#include <vector>
 
-#include "manual/calls.h"
+#include "manual/arguments.h"
 
 /// One call: sizes are 3, options on, numbers differ from cell to cell, arrays have room for 3 x 3 x 3 cells.
 class AnyCall {
  public:
   explicit AnyCall(const CatalogueEntry& entry);
-  AnyCall(const AnyCall&) = delete;
-  ~AnyCall();
 
   /// Calls the entry.
   ///
@@ -22,7 +19,7 @@ class AnyCall {
   std::string run(int nullParameter = -1);
 
   /// What the array of a parameter holds: bytes, or characters and where a slot is new; empty for others.
-  std::string contents(std::size_t parameter) const;
+  std::string contents(std::size_t parameter) const { return arguments_[parameter].contents(); }
 
   bool isArray(std::size_t parameter) const { return entry_.parameters[parameter].type.back() == '*'; }
 
@@ -32,15 +29,6 @@ class AnyCall {
  private:
   static constexpr std::size_t kCells = 27;
 
-  struct Array {
-    std::vector<double> numbers;
-    std::vector<int> ints;
-    std::vector<kav::VARIANT_BOOL> flags;
-    std::vector<kav::BSTR> texts;
-  };
-
   const CatalogueEntry& entry_;
-  std::deque<Array> arrays_;  ///< one for each parameter
-  std::vector<manual::Actual> arguments_;
-  std::vector<kav::BSTR> owned_;
+  std::deque<manual::Argument> arguments_;
 };
