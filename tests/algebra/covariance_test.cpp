@@ -147,7 +147,7 @@ TEST(Covariance, EqualsPublishedValues) {
   const matrix cars(32, 11, mtcars.column(2), false, 0, 0),
       carburettors(32, 1, mtcars.column(12), true, 0, 0);
   const matrix air(153, 6, quality.column(1), false, 0, 0);
-  matrix *r[7] = {}, *m = nullptr, *s = nullptr, *v = nullptr;
+  Made<matrix> r[7], m, s, v;
   M_CovCorrAndMeanStDevVar(x, 150, 4, r[0], m, s, v, 0, nullptr, nullptr, -1, -1, 0, -1);
   M_CorrMatFromCovMat(r[0], 4, r[1]);
   M_CovCorr(&cars, 32, 11, r[2], 0, nullptr, &carburettors, -1, -1);
@@ -160,14 +160,13 @@ TEST(Covariance, EqualsPublishedValues) {
     const matrix* table;
     int i, j;
     double expected;
-  } values[] = {{r[0], 1, 2, -0.042434004474272931}, {r[0], 3, 4, 1.2956093959731543},
-                {r[1], 1, 3, 0.8717537758865832},    {r[1], 4, 4, 1.0},
-                {s, 3, 1, 1.7652982332594664},       {&iris, 1, 1, -0.89767387919676622},
-                {&iris, 2, 2, -0.13153881205025958}, {r[2], 1, 3, -528.31225842696631},
-                {r[3], 1, 2, -6.9552592592592593},   {r[4], 1, 1, 27.325488172043009},
-                {r[5], 1, 2, 1056.5834561834563},    {r[5], 3, 1, -70.938530734632693},
-                {r[6], 2, 1, 0.35565179642139194},   {r[6], 1, 4, 0.69985189821563121}};
+  } values[] = {{r[0].held, 1, 2, -0.042434004474272931}, {r[0].held, 3, 4, 1.2956093959731543},
+                {r[1].held, 1, 3, 0.8717537758865832},    {r[1].held, 4, 4, 1.0},
+                {s.held, 3, 1, 1.7652982332594664},       {&iris, 1, 1, -0.89767387919676622},
+                {&iris, 2, 2, -0.13153881205025958},      {r[2].held, 1, 3, -528.31225842696631},
+                {r[3].held, 1, 2, -6.9552592592592593},   {r[4].held, 1, 1, 27.325488172043009},
+                {r[5].held, 1, 2, 1056.5834561834563},    {r[5].held, 3, 1, -70.938530734632693},
+                {r[6].held, 2, 1, 0.35565179642139194},   {r[6].held, 1, 4, 0.69985189821563121}};
   for (const auto& c : values)
     EXPECT_NEAR(c.table->vbget(c.i, c.j), c.expected, 1e-12 * std::fabs(c.expected)) << c.expected;
-  for (const matrix* made : {r[0], r[1], r[2], r[3], r[4], r[5], r[6], m, s, v}) delete made;
 }

@@ -59,19 +59,19 @@ TEST(Standardization, StatisticsEqualTheirDefinitionBitForBit) {
     const std::vector<short> flags = randomFlags(random, n);
     const short* rows = round % 4 == 0 ? nullptr : flags.data();
 
-    matrix *m[4] = {}, *s[4] = {}, *v[3] = {}, *out[2] = {};
-    if (round % 2 == 0) s[0] = new matrix(p, 1, 8.1);
+    Made<matrix> m[4], s[4], v[3], out[2];
+    if (round % 2 == 0) s[0].held = new matrix(p, 1, 8.1);
     EXPECT_EQ(M_MeanStDev(&table, n, p, m[0], s[0], rows, w, u, f, mode), 0);
     EXPECT_EQ(M_MeanStDevVar(&table, n, p, m[1], s[1], v[0], rows, w, u, f), 0);
     EXPECT_EQ(M_Mean(&table, n, p, m[2], rows, w), 0);
     M_Standardize(&table, n, p, out[0], m[3], s[2], v[1], rows, w, u, f);
     EXPECT_EQ(M_StandardizeKnownMeansStDev(&table, n, p, m[1], out[1], s[1], v[2], rows), 0);
-    EXPECT_EQ(s[0] != nullptr, round % 2 == 0);
+    EXPECT_EQ(s[0].held != nullptr, round % 2 == 0);
     for (int j = 0; j < p; ++j) {
       const Expected e = byDefinition(table, n, j, rows, w, u, f, mode);
       const Expected all = byDefinition(table, n, j, rows, w, u, f, 0);
       EXPECT_TRUE(holdsAt(*m[0], j, e.mean));
-      EXPECT_TRUE(s[0] == nullptr || holdsAt(*s[0], j, e.stdev));
+      EXPECT_TRUE(s[0].held == nullptr || holdsAt(*s[0], j, e.stdev));
       for (int k : {1, 3}) EXPECT_TRUE(holdsAt(*m[k], j, all.mean));
       for (int k : {1, 2}) EXPECT_TRUE(holdsAt(*s[k], j, all.stdev));
       for (int k : {0, 1}) EXPECT_TRUE(holdsAt(*v[k], j, all.variance));
@@ -89,9 +89,6 @@ TEST(Standardization, StatisticsEqualTheirDefinitionBitForBit) {
         const bool keeps = table.getMissing(i, j) || (rows != nullptr && rows[i] != 0);
         EXPECT_TRUE(bits::equal(out[1]->getElement(i, j), keeps ? x : z));
       }
-    }
-    for (auto& group : {std::vector(m, m + 4), std::vector(s, s + 4), {v[0], v[1], v[2], out[0], out[1]}}) {
-      for (const matrix* made : group) delete made;
     }
   }
 }
@@ -186,9 +183,8 @@ TEST(Standardization, ByHandIntoAResultThatIsRefilled) {
   const double expected[] = {-1.0, 0.0, 1.0, (4 - 16 / 3.) / sd, (5 - 16 / 3.) / sd, (7 - 16 / 3.) / sd};
   const auto cell = [&](int i, int j) { return expected[i - 1 + 3 * (j - 1)]; };
   expectMakes(3, 2, cell, [&](matrix*& out) {
-    matrix* r[3] = {};
+    Made<matrix> r[3];
     M_Standardize(&table, 3, 2, out, r[0], r[1], r[2], nullptr, nullptr, -1, -1);
-    for (const matrix* made : r) delete made;
   });
 }
 

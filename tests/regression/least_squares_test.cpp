@@ -21,12 +21,8 @@ struct Fit {
   Fit(int n, int p, const matrix& x, const matrix& y, const matrix& w, Options o) {
     OLSBasic2(n, p, &x, &y, &w, o.degree, o.interactions, o.throughOrigin, o.tolerance, b, se, fitted);
   }
-  Fit(const Fit&) = delete;
-  ~Fit() {
-    for (const matrix* m : {b, se, fitted}) delete m;
-  }
 
-  matrix *b = nullptr, *se = nullptr, *fitted = nullptr;
+  Made<matrix> b, se, fitted;
 };
 
 using Doubles = std::vector<double>;

@@ -245,8 +245,10 @@ TEST(Sorts, VectorsComeInOrderAndDescendingReversed) {
 
 TEST(Sorts, OrdersAreTruncatedAndRowsOutsideAreMinusOneOrEmpty) {
   const double special[] = {0.5, 0.0, 301.0, std::nan(""), -3.0, 1e300};
-  matrix source(300, 2), order(300, 1), inverse(300, 1), *there = nullptr, *back = nullptr;
-  Smatrix labels(300, 2), *labelsThere = nullptr;
+  matrix source(300, 2), order(300, 1), inverse(300, 1);
+  Smatrix labels(300, 2);
+  Made<matrix> there, back;
+  Made<Smatrix> labelsThere;
   for (int k = 0; k < 600; ++k) {
     source.values[k] = k * 2.385;
     labels.cells[k] = static_cast<char16_t>(k + 1);
@@ -264,7 +266,4 @@ TEST(Sorts, OrdersAreTruncatedAndRowsOutsideAreMinusOneOrEmpty) {
     EXPECT_EQ(there->values[k], row == 0 ? -1.0 : source.vbget(row, c)) << k;
     EXPECT_EQ(labelsThere->cells[k], row == 0 ? u"" : labels.vbget(row, c)) << k;
   }
-  delete there;
-  delete back;
-  delete labelsThere;
 }
