@@ -166,37 +166,6 @@ TEST(VectorMoments, WeightedReferenceValues) {
       {18.243333333333336, 26.768999999999995, 26.471566666666671, 27.325488172043009, -0.55092507390245882});
 }
 
-TEST(VectorMoments, Laws) {
-  Random random(8);
-  std::vector<double> cells, counts, repeated, used, usedCounts, scaled;
-  for (int i = 0; i < 90; ++i) {
-    const int count = random.below(5);
-    cells.push_back(random.uniform(-3.0, 11.0));
-    counts.push_back(count);
-    scaled.push_back(cells.back() * 0x1p-9);
-    repeated.insert(repeated.end(), static_cast<std::size_t>(count), cells.back());
-    if (count == 0) continue;
-    used.push_back(cells.back());
-    usedCounts.push_back(count);
-  }
-  const auto all = [&](const std::vector<double>& x, const std::vector<double>& w, short biasIsOne) {
-    const int n = static_cast<int>(x.size());
-    const matrix values(n, 1, x.data(), false, 0, 0), weights(n, 1, w.data(), false, 0, 0);
-    std::vector<double> results = shapesOf(values, n, kNone, &weights, -1, biasIsOne);
-    results.resize(8);
-    V_MeanVar(&values, n, &results[6], &results[7], kNone, &weights, -1, biasIsOne);
-    return results;
-  };
-  // Counts are repeated rows, zero is an absent row, other weights have any scale, powers of two are exact.
-  expectNear(all(cells, counts, -1), all(repeated, std::vector<double>(repeated.size(), 1.0), -1));
-  std::vector<double> expected = all(used, usedCounts, 0);
-  EXPECT_TRUE(bits::equal(all(cells, counts, 0), expected));
-  for (double& count : counts) count *= 0x1p5;
-  EXPECT_TRUE(bits::equal(all(cells, counts, 0), expected));
-  for (std::size_t k : {0u, 1u, 1u, 6u, 7u, 7u}) expected[k] *= 0x1p-9;
-  EXPECT_TRUE(bits::equal(all(scaled, counts, 0), expected));
-}
-
 // Neither scale nor denominator matters to a correlation.
 TEST(VectorMoments, ConstantsVaryByExactlyNothingAndMultiplesTogether) {
   Random random(12);
