@@ -7,6 +7,11 @@
 #include <vector>
 
 #include "data.h"
+#include "definitions/cholesky.h"
+#include "definitions/collinearity.h"
+#include "definitions/eigenvalues.h"
+#include "definitions/lu.h"
+#include "definitions/singular_values.h"
 #include "eigen_decompositions.h"
 #include "kavoratb1c/decomp/cholesky.h"
 #include "kavoratb1c/decomp/collinearity.h"
@@ -22,6 +27,8 @@
 using namespace kav;
 
 namespace {
+
+using definitions::Cells;
 
 std::size_t sizeOf(int n) { return static_cast<std::size_t>(n); }
 
@@ -62,7 +69,7 @@ void enterEigenvectors(int n) {
           }));
   contest(work, "plain loops",
           keeping(data, [values = std::make_shared<std::vector<double>>(sizeOf(n))](Data& d) {
-            plain::eigenvectors(d.copyInB()->values, d.n, values->data());
+            definitions::eigenvalues(Cells{d.copyInB()->values, d.n}, d.n, values->data());
           }));
   enterEigen(work, "SelfAdjointEigenSolver", data, [](const peers::Decompositions& by, const Data& d) {
     return by.eigenvectors(d.a->values, d.n);
@@ -86,8 +93,8 @@ void enterSingularVectors(int n, int p) {
                        info);
           }));
   contest(work, "plain loops", keeping(data, [results](Data& d) {
-            plain::singularVectors(d.copyInB()->values, d.n, d.p, results->s.values, results->u.values,
-                                   results->v.values);
+            const Cells x{d.copyInB()->values, d.n}, u{results->u.values, d.n}, v{results->v.values, d.p};
+            definitions::SingularValues<Cells>{d.n, d.p, d.p, x, u, v}.run();
           }));
   enterEigen(work, "BDCSVD", data, [](const peers::Decompositions& by, const Data& d) {
     return by.singularVectors(d.a->values, d.n, d.p);
@@ -100,8 +107,9 @@ void enterCholesky(int n) {
   const auto data = positiveDefinite(n);
   const std::string work = "M_CholDecomp of " + sizes(n, n);
   contest(work, "library", keeping(data, [](Data& d) { M_CholDecomp(d.a, d.n, d.c); }));
-  contest(work, "plain loops",
-          keeping(data, [](Data& d) { plain::cholesky(d.a->values, d.n, d.b->values); }));
+  contest(work, "plain loops", keeping(data, [](Data& d) {
+            definitions::cholesky(Cells{d.a->values, d.n}, d.n, Cells{d.b->values, d.n});
+          }));
   enterEigen(work, "LLT", data,
              [](const peers::Decompositions& by, const Data& d) { return by.cholesky(d.a->values, d.n); });
   peers::enterLapackCholesky(work, data->a->values, n);
@@ -119,7 +127,8 @@ void enterLuFactors(int n) {
   contest(work, "plain loops",
           keeping(data, [index = std::make_shared<std::vector<int>>(sizeOf(n))](Data& d) {
             double parity;
-            plain::luFactors(d.copyInB()->values, d.n, index->data(), parity);
+            definitions::luFactors(Cells{d.copyInB()->values, d.n}, d.n, parity,
+                                   [&](int j, int row) { (*index)[sizeOf(j)] = row; });
           }));
   enterEigen(work, "PartialPivLU", data,
              [](const peers::Decompositions& by, const Data& d) { return by.luFactors(d.a->values, d.n); });
@@ -151,7 +160,7 @@ void enterElimination(int n) {
   const std::string work = "M_Gauss of " + sizes(n, n) + ", one right-hand side";
   contest(work, "library", keeping(data, [refilled](Data& d) { M_Gauss(d.copyInB(), d.n, 1, refilled()); }));
   contest(work, "plain loops", keeping(data, [refilled](Data& d) {
-            plain::eliminate(d.copyInB()->values, d.n, refilled()->values, 1);
+            definitions::eliminate(Cells{d.copyInB()->values, d.n}, d.n, Cells{refilled()->values, d.n}, 1);
           }));
   enterEigen(work, "FullPivLU, inverse", data, [](const peers::Decompositions& by, const Data& d) {
     return by.inverseByFullPivoting(d.a->values, d.n);
@@ -173,8 +182,8 @@ void enterSweeps(int p) {
             for (int k = 1; k <= p; ++k) M_Sweep(s, p, k);
           }));
   contest(work, "plain loops", keeping(data, [p](Data& d) {
-            matrix* s = d.copyInB();
-            for (int k = 0; k < p; ++k) plain::sweep(s->values, p, k);
+            const definitions::Packed<Cells> s{{d.copyInB()->values, 0}};
+            for (int k = 0; k < p; ++k) definitions::sweep(s, p, k);
           }));
   peers::enterLapackPackedInverse(work, data->a->values, p);
 }
@@ -205,8 +214,11 @@ void enterToleranceChecks(int p) {
             CheckTolerance(d.a, d.n, 1, &v->selection, nullptr, v->group, kTolerance, kTrue, kFalse, kFalse,
                            &v->status, &v->tolerances, &v->inflations);
           }));
-  contest(work, "plain loops", keeping(data, [v = variables](Data& d) {
-            plain::tolerances(d.a->values, d.n, kTolerance, v->tolerances.values);
+  contest(work, "plain loops",
+          keeping(data, [results = std::make_shared<std::vector<double>>(3 * sizeOf(p))](Data& d) {
+            definitions::CollinearityCheck check{d.n};
+            check.tolerance = kTolerance;
+            definitions::Collinearity(check, Cells{d.a->values, d.n}, *results);
           }));
 }
 

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "definitions/nearest_neighbours.h"
 #include "kavoratb1c/checks/qualitative.h"
 #include "kavoratb1c/missing/estimates.h"
 #include "kavoratb1c/missing/nearest_neighbours.h"
@@ -94,8 +95,36 @@ void nearestByLibrary(Numbers& numbers, Labels* labels) {
 
 void nearestByPlainSearch(Numbers& numbers, Labels* labels) {
   numbers.open();
-  plain::fillFromNearest(numbers.table.values, numbers.table.missing, numbers.n, numbers.p,
-                         labels ? labels->table.cells : nullptr, labels ? labels->p : 0);
+  const int n = numbers.n, p = numbers.p, labelColumns = labels ? labels->p : 0;
+  double* const cells = numbers.table.values;
+  bool* const missing = numbers.table.missing;
+  std::u16string* const texts = labels ? labels->table.cells : nullptr;
+  const auto at = [n](int i, int j) { return i + std::ptrdiff_t{n} * j; };
+  const auto isMissing = [=](int i, int j) {
+    return j < p ? missing[at(i, j)] : texts[at(i, j - p)].empty();
+  };
+  std::vector<int> rows;
+  std::vector<double> ranges;
+  for (int i = 0; i < n; ++i) rows.push_back(i);
+  for (int j = 0; j < p; ++j) {
+    ranges.push_back(
+        definitions::range(rows, [&](int i) { return isMissing(i, j) ? std::nan("") : cells[at(i, j)]; }));
+  }
+  definitions::fillFromNearest(
+      n, p + labelColumns, rows, isMissing, [&](int i, int j) { return !isMissing(i, j); },
+      [&](int i, int k, int j) {
+        if (isMissing(i, j) || isMissing(k, j)) return 1.0;
+        if (j >= p) return texts[at(i, j - p)] == texts[at(k, j - p)] ? 0.0 : 1.0;
+        return definitions::difference(cells[at(i, j)], cells[at(k, j)], ranges[static_cast<std::size_t>(j)]);
+      },
+      [&](int i, int k, int j) {
+        if (j < p) {
+          cells[at(i, j)] = cells[at(k, j)];
+          missing[at(i, j)] = false;
+        } else {
+          texts[at(i, j - p)] = texts[at(k, j - p)];
+        }
+      });
   if (labels) labels->open();
 }
 

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "data.h"
+#include "definitions/lu.h"
 #include "kernels/kernels.h"
 #include "peers.h"
-#include "plain_forms.h"
 #include "ratios.h"
 
 using namespace kav;
@@ -127,7 +127,8 @@ void enterInverses(int n) {
           }));
   contest(work, "plain loops", keeping(data, [](Data& d) {
             d.result.resize(d.n, d.n);
-            plain::invert(d.copyInB()->values, d.n, d.result.data());
+            definitions::invert(definitions::Cells{d.copyInB()->values, d.n}, d.n,
+                                definitions::Cells{d.result.data(), d.n}, 0.0);
           }));
   contest(work, "Eigen, SSE2", keeping(data, [](Data& d) { d.result = d.mapA().inverse(); }));
   peers::enterArmadilloInverse(work, data->a->values, n);

@@ -10,7 +10,6 @@
 #include "kavoratb1c/tables/categories.h"
 #include "kavoratb1c/tables/merges.h"
 #include "peers.h"
-#include "plain_forms.h"
 #include "ratios.h"
 
 using namespace kav;

@@ -32,26 +32,32 @@ TEST(Elementwise, EqualsItsDefinitionBitForBit) {
     };
     const double s = random.uniform(-3.0, 3.0), t = random.uniform(-3.0, 3.0);
     using C = matrix*&;
-    const WorkerCheck expect = {n, p, 0};
+    const WorkerCheck expect = {n, p};
     const auto scaled = [&](int i, int j) { return s * x(i, j); };
     const auto scaledBack = [&](int i, int j) { return s * x(j, i); };
     const auto moved = [&](int i, int j) { return x(i, j) + s; };
     const auto added = [&](int i, int j) { return s * x(i, j) + t * y(i, j); };
     const auto multiplied = [&](int i, int j) { return x(i, j) * y(i, j); };
     const auto back = [&](int i, int j) { return x(j, i); };
-    expect("np+ScalarsA", scaled, [&](int i, int j, C c) { M_ScalarsA(&a, i, j, s, c); });
-    expect("pn ScalarsTrA", scaledBack, [&](int i, int j, C c) { M_ScalarsTrA(&a, i, j, s, c); });
-    expect("np APlusVal", moved, [&](int i, int j, C c) { M_APlusVal(&a, i, j, s, c); });
-    expect("np Sums1As2B", added, [&](int i, int j, C c) { M_Sums1As2B(&a, i, j, &b, s, t, c); });
-    expect("np+ByElement", multiplied, [&](int i, int j, C c) { M_ProductByElement(&a, i, j, &b, c); });
-    expect("pn Transpose", back, [&](int i, int j, C c) { M_Transpose(&a, i, j, c); });
-    expect("n1+SumByRows", row(x), [&](int i, int j, C c) { M_SumByRows(&a, i, j, c); });
-    expect("p1+SumByCols", column(x), [&](int i, int j, C c) { M_SumByCols(&a, i, j, c); });
-    expect("n10SquaredRows", row(square), [&](int i, int j, C c) { M_SquaredRows(&a, i, j, c); });
-    expect("p10SquaredColumns", column(square), [&](int i, int j, C c) { M_SquaredColumns(&a, i, j, c); });
+    expect("ScalarsA", {kN, kP, kWritten}, scaled, [&](int i, int j, C c) { M_ScalarsA(&a, i, j, s, c); });
+    expect("ScalarsTrA", {kP, kN}, scaledBack, [&](int i, int j, C c) { M_ScalarsTrA(&a, i, j, s, c); });
+    expect("APlusVal", {kN, kP}, moved, [&](int i, int j, C c) { M_APlusVal(&a, i, j, s, c); });
+    expect("Sums1As2B", {kN, kP}, added, [&](int i, int j, C c) { M_Sums1As2B(&a, i, j, &b, s, t, c); });
+    expect("ByElement", {kN, kP, kWritten}, multiplied,
+           [&](int i, int j, C c) { M_ProductByElement(&a, i, j, &b, c); });
+    expect("Transpose", {kP, kN}, back, [&](int i, int j, C c) { M_Transpose(&a, i, j, c); });
+    expect("SumByRows", {kN, kOne, kWritten}, row(x), [&](int i, int j, C c) { M_SumByRows(&a, i, j, c); });
+    expect("SumByCols", {kP, kOne, kWritten}, column(x),
+           [&](int i, int j, C c) { M_SumByCols(&a, i, j, c); });
+    expect("SquaredRows", {kN, kOne, kAlwaysWritten}, row(square),
+           [&](int i, int j, C c) { M_SquaredRows(&a, i, j, c); });
+    expect("SquaredColumns", {kP, kOne, kAlwaysWritten}, column(square),
+           [&](int i, int j, C c) { M_SquaredColumns(&a, i, j, c); });
     const auto none = [](int, int) { return 0.0; };
-    WorkerCheck{n, 0, 0}("n10SquaredRows", none, [&](int i, int, C c) { M_SquaredRows(&a, i, 0, c); });
-    WorkerCheck{0, p, 0}("p10SquaredColumns", none, [&](int, int j, C c) { M_SquaredColumns(&a, 0, j, c); });
+    WorkerCheck{n, 0}("SquaredRows", {kN, kOne, kAlwaysWritten}, none,
+                      [&](int i, int, C c) { M_SquaredRows(&a, i, 0, c); });
+    WorkerCheck{0, p}("SquaredColumns", {kP, kOne, kAlwaysWritten}, none,
+                      [&](int, int j, C c) { M_SquaredColumns(&a, 0, j, c); });
     EXPECT_TRUE(bits::equal(M_Trace(&a, n), total(n, [&](int i) { return x(i, i); })));
 
     const auto noMarker = [&](int i, int j) { return x(i, j) != kMissing; };
@@ -60,13 +66,18 @@ TEST(Elementwise, EqualsItsDefinitionBitForBit) {
         bool found = false;
         double best = kMissing;
         for (int i = 1; i <= n; ++i) {
-          if (isUsed(i, j) && (!found || sign * x(i, j) > sign * best)) found = true, best = x(i, j);
+          if (isUsed(i, j) && (!found || sign * x(i, j) > sign * best)) {
+            found = true;
+            best = x(i, j);
+          }
         }
         return best;
       };
     };
-    expect("p1+Max", extreme(1.0, noMarker), [&](int i, int j, C c) { M_Max(&a, i, j, c); });
-    expect("p1+Min", extreme(-1.0, noMarker), [&](int i, int j, C c) { M_Min(&a, i, j, c); });
+    expect("Max", {kP, kOne, kWritten}, extreme(1.0, noMarker),
+           [&](int i, int j, C c) { M_Max(&a, i, j, c); });
+    expect("Min", {kP, kOne, kWritten}, extreme(-1.0, noMarker),
+           [&](int i, int j, C c) { M_Min(&a, i, j, c); });
     for (const short option : {short{0}, short{-1}, short{1}, short{2}}) {
       const auto cells = [&](bool greatest) {
         return [&, greatest](int j, int) {
@@ -82,15 +93,15 @@ TEST(Elementwise, EqualsItsDefinitionBitForBit) {
         };
       };
       matrix unused(p, 1, 0.0);
-      expect("p1+least", cells(false),
+      expect("least", {kP, kOne, kWritten}, cells(false),
              [&](int i, int j, C c) { M_MinMax(&a, i, j, c, &unused, exclude.data(), option); });
-      expect("p1+greatest", cells(true),
+      expect("greatest", {kP, kOne, kWritten}, cells(true),
              [&](int i, int j, C c) { M_MinMax(&a, i, j, &unused, c, exclude.data(), option); });
     }
 
     // In place where the container was built with as many cells.
     const auto expectInPlace = [&](int rows, int columns, auto cell, auto run) {
-      expect.withoutCells("  +", run);
+      expect.withoutCells({kNone, kNone, kWritten}, run);
       const auto held = copyOf(a);
       std::vector<double> expected = cellsOf(a);
       const bool fits = addressing::cellCount(a) >= rows * columns;
@@ -104,7 +115,7 @@ TEST(Elementwise, EqualsItsDefinitionBitForBit) {
     };
     expectInPlace(n, p, scaled, [&](int i, int j, C c) { M_ScalarsA2(c, i, j, s); });
     expectInPlace(p, n, back, [&](int i, int j, C c) { EXPECT_EQ(M_Transpose2(c, i, j), 0); });
-    expect.withoutCells("  +Square", [&](int i, int j, C c) { M_Square(c, i, j); });
+    expect.withoutCells({kNone, kNone, kWritten}, [&](int i, int j, C c) { M_Square(c, i, j); });
     const auto squared = copyOf(a), expected = copyOf(a);
     M_Square(squared.get(), n, p);
     for (int r = 1; r <= n; ++r) {

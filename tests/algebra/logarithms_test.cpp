@@ -11,7 +11,8 @@ using square::cells;
 
 TEST(Logarithms, AreTakenOfCellsThatArePresent) {
   const auto natural = cells(2, 3, {0, -1, 1, kMissing, 100, 0.01}), decimal = copyOf(*natural);
-  natural->setMissing(0, 2, true), decimal->setMissing(0, 2, true);
+  natural->setMissing(0, 2, true);
+  decimal->setMissing(0, 2, true);
   const short none[] = {0, 0}, second[] = {0, 7};
   matrix* a = natural.get();
   EXPECT_TRUE(M_IsPositive(a, 2, 3, second, 0) == -1 && M_IsPositive(a, 2, 3, none, 0) == 0);

@@ -59,7 +59,10 @@ TEST(Products, EqualTheirDefinitionBitForBit) {
     matrix *A = operand(n, p), *PQ = operand(p, q), *QP = operand(q, p), *NQ = operand(n, q);
     matrix *PP = operand(p, p), *NN = operand(n, n), *U = operand(n, 1), *V = operand(p, 1);
     // Singular, since pivots up to 1e-8 are zero.
-    if (round % 4 == 0) PP->SProd(0, 1e-10), NN->SProd(0, 1e-10);
+    if (round % 4 == 0) {
+      PP->SProd(0, 1e-10);
+      NN->SProd(0, 1e-10);
+    }
     const auto a = at(A), nq = at(NQ), u = at(U), v = at(V);
     const auto ta = transposed(A);
     const auto onV = [v](int k) { return v(k, 1); };
@@ -68,35 +71,46 @@ TEST(Products, EqualTheirDefinitionBitForBit) {
     const auto onN = [m = at(NN)](int k) { return m(k, k); };
     const auto one = [](int) { return 1.0; };
     const WorkerCheck expect = {n, p, q};
-    expect("nq AB", product(p, a, at(PQ)), [&](int i, int j, C c) { M_ProductAB(A, i, j, PQ, q, c); });
-    expect("nq A'B", product(p, a, transposed(QP)),
+    expect("AB", {kN, kQ}, product(p, a, at(PQ)), [&](int i, int j, C c) { M_ProductAB(A, i, j, PQ, q, c); });
+    expect("AB'", {kN, kQ}, product(p, a, transposed(QP)),
            [&](int i, int j, C c) { M_ProductATrB(A, i, j, QP, q, c); });
-    expect("pq AB'", product(n, ta, nq), [&](int i, int j, C c) { M_ProductTrAB(A, i, j, NQ, q, c); });
-    expect("p1 VB", product(n, ta, u), [&](int i, int j, C c) { M_ProductVB(U, i, A, j, c); });
-    expect("n1+BV", product(p, a, v), [&](int i, int j, C c) { M_ProductBV(A, i, j, V, c); });
-    expect("nn AA'", symmetric(p, a, one), [&](int i, int j, C c) { M_ProductATrA(A, i, j, c); });
-    expect("pp A'A", symmetric(n, ta, one), [&](int i, int j, C c) { M_ProductTrAA(A, i, j, c); });
-    expect("nn ADA'", symmetric(p, a, onP), [&](int i, int j, C c) { M_ProductADTrA(A, i, j, PP, c); });
-    expect("pp A'DA", symmetric(n, ta, onN), [&](int i, int j, C c) { M_ProductTrADA(A, i, j, NN, c); });
-    expect("nn+AvA'", symmetric(p, a, onV), [&](int i, int j, C c) { M_ProductADiagVTrA(A, i, j, V, c); });
-    expect("pp+A'vA", symmetric(n, ta, onU), [&](int i, int j, C c) { M_ProductTrADiagVA(A, i, j, U, c); });
+    expect("A'B", {kP, kQ}, product(n, ta, nq), [&](int i, int j, C c) { M_ProductTrAB(A, i, j, NQ, q, c); });
+    expect("V'B", {kP, kOne}, product(n, ta, u), [&](int i, int j, C c) { M_ProductVB(U, i, A, j, c); });
+    expect("BV", {kN, kOne, kWritten}, product(p, a, v),
+           [&](int i, int j, C c) { M_ProductBV(A, i, j, V, c); });
+    expect("AA'", {kN, kN}, symmetric(p, a, one), [&](int i, int j, C c) { M_ProductATrA(A, i, j, c); });
+    expect("A'A", {kP, kP}, symmetric(n, ta, one), [&](int i, int j, C c) { M_ProductTrAA(A, i, j, c); });
+    expect("ADA'", {kN, kN}, symmetric(p, a, onP),
+           [&](int i, int j, C c) { M_ProductADTrA(A, i, j, PP, c); });
+    expect("A'DA", {kP, kP}, symmetric(n, ta, onN),
+           [&](int i, int j, C c) { M_ProductTrADA(A, i, j, NN, c); });
+    expect("AvA'", {kN, kN, kWritten}, symmetric(p, a, onV),
+           [&](int i, int j, C c) { M_ProductADiagVTrA(A, i, j, V, c); });
+    expect("A'vA", {kP, kP, kWritten}, symmetric(n, ta, onU),
+           [&](int i, int j, C c) { M_ProductTrADiagVA(A, i, j, U, c); });
     const auto scaled = [](auto l, auto d) { return [=](int i, int j) { return l(i, j) * d(j); }; };
     const auto rows = [=](int i, int j) { return onU(i) * a(i, j); };
     const auto crossed = [=](int i, int j) { return a(i, (j + 2) / 3) * nq(i, (j + 2) % 3 + 1); };
-    expect("np AD", scaled(a, onP), [&](int i, int j, C c) { M_ProductADiag(A, i, j, PP, c); });
-    expect("pn A'D", scaled(ta, onN), [&](int i, int j, C c) { M_ProductTrADiag(A, i, j, NN, c); });
-    expect("np+Av", scaled(a, onV), [&](int i, int j, C c) { M_ProductADiagV(A, i, j, V, c); });
-    expect("np+vA", rows, [&](int i, int j, C c) { M_ProductDiagVA(U, i, A, j, c); });
-    expect("np+vAv", scaled(rows, onV), [&](int i, int j, C c) { M_ProductDiagV1ADiagV2(U, i, A, j, V, c); });
+    expect("AD", {kN, kP}, scaled(a, onP), [&](int i, int j, C c) { M_ProductADiag(A, i, j, PP, c); });
+    expect("A'D", {kP, kN}, scaled(ta, onN), [&](int i, int j, C c) { M_ProductTrADiag(A, i, j, NN, c); });
+    expect("Av", {kN, kP, kWritten}, scaled(a, onV),
+           [&](int i, int j, C c) { M_ProductADiagV(A, i, j, V, c); });
+    expect("vA", {kN, kP, kWritten}, rows, [&](int i, int j, C c) { M_ProductDiagVA(U, i, A, j, c); });
+    expect("vAv", {kN, kP, kWritten}, scaled(rows, onV),
+           [&](int i, int j, C c) { M_ProductDiagV1ADiagV2(U, i, A, j, V, c); });
     const WorkerCheck expectWide = {n, 3 * p, q};
-    expectWide("np+AxB", crossed, [&](int i, int j, C c) { M_ProductHorizAB(A, i, j / 3, NQ, 3, c); });
-    expect.withoutCells("  +AxB", [&](int i, int j, C c) { M_ProductHorizAB2(c, i, &j, NQ, 3); });
-    expect.withoutCells("  +AxB", [&](int i, int j, C c) { M_ProductDesignAB2(c, i, &j, NQ, 3, 0, U, c); });
+    expectWide("AxB", {kN, kP, kWritten}, crossed,
+               [&](int i, int j, C c) { M_ProductHorizAB(A, i, j / 3, NQ, 3, c); });
+    expect.withoutCells({kNone, kNone, kWritten},
+                        [&](int i, int j, C c) { M_ProductHorizAB2(c, i, &j, NQ, 3); });
+    expect.withoutCells({kNone, kNone, kWritten},
+                        [&](int i, int j, C c) { M_ProductDesignAB2(c, i, &j, NQ, 3, 0, U, c); });
 
     // Two factors first, then the third; in the middle a table or its inverse.
     for (const bool inverted : {false, true}) {
       matrix P(p, p, 0.0), N(n, n, 0.0), left(n, p, 0.0), tLeft(p, n, 0.0), right(n, 1, 0.0);
-      byDefinition(P, p, p, at(PP)), byDefinition(N, n, n, at(NN));
+      byDefinition(P, p, p, at(PP));
+      byDefinition(N, n, n, at(NN));
       if (inverted) {
         short state = 0;  // without an inverse zeros
         if (P.inverse1(&P, state, 1e-12) != 0) std::fill_n(P.values, p * p, 0.0);
@@ -108,8 +122,9 @@ TEST(Products, EqualTheirDefinitionBitForBit) {
       const auto byRows = inverted ? M_ProductAinvBTrA : M_ProductABTrA;
       const auto byColumns = inverted ? M_ProductTrAinvBA : M_ProductTrABA;
       const auto form = inverted ? M_ProductTrVinvBV : M_ProductTrVBV;
-      expect("nn ABA'", product(p, at(&left), ta), [&](int i, int j, C c) { byRows(A, i, j, PP, c); });
-      expect("pp A'BA", product(n, at(&tLeft), a), [&](int i, int j, C c) { byColumns(A, i, j, NN, c); });
+      expect("ABA'", {kN, kN}, product(p, at(&left), ta), [&](int i, int j, C c) { byRows(A, i, j, PP, c); });
+      expect("A'BA", {kP, kP}, product(n, at(&tLeft), a),
+             [&](int i, int j, C c) { byColumns(A, i, j, NN, c); });
       EXPECT_TRUE(bits::equal(form(U, n, NN), product(n, transposed(U), at(&right))(1, 1)));
       if (inverted) continue;
       EXPECT_TRUE(bits::equal(M_ProductTrV1BV2(A, n, NN, U), product(n, ta, at(&right))(1, 1)));

@@ -1,6 +1,5 @@
 #include "kavoratb1c/algebra/standardization.h"
 
-#include <functional>
 #include <optional>
 #include <utility>
 
@@ -10,6 +9,8 @@
 using namespace kav;
 
 namespace {
+
+using definitions::WeightedUpdate;
 
 constexpr int kMost = std::numeric_limits<int>::max();
 
@@ -58,19 +59,19 @@ TEST(Standardization, StatisticsEqualTheirDefinitionBitForBit) {
     const std::vector<short> flags = randomFlags(random, n);
     const short* rows = round % 4 == 0 ? nullptr : flags.data();
 
-    matrix *m[4] = {}, *s[4] = {}, *v[3] = {}, *out[2] = {};
-    if (round % 2 == 0) s[0] = new matrix(p, 1, 8.1);
+    Made<matrix> m[4], s[4], v[3], out[2];
+    if (round % 2 == 0) s[0].held = new matrix(p, 1, 8.1);
     EXPECT_EQ(M_MeanStDev(&table, n, p, m[0], s[0], rows, w, u, f, mode), 0);
     EXPECT_EQ(M_MeanStDevVar(&table, n, p, m[1], s[1], v[0], rows, w, u, f), 0);
     EXPECT_EQ(M_Mean(&table, n, p, m[2], rows, w), 0);
     M_Standardize(&table, n, p, out[0], m[3], s[2], v[1], rows, w, u, f);
     EXPECT_EQ(M_StandardizeKnownMeansStDev(&table, n, p, m[1], out[1], s[1], v[2], rows), 0);
-    EXPECT_EQ(s[0] != nullptr, round % 2 == 0);
+    EXPECT_EQ(s[0].held != nullptr, round % 2 == 0);
     for (int j = 0; j < p; ++j) {
       const Expected e = byDefinition(table, n, j, rows, w, u, f, mode);
       const Expected all = byDefinition(table, n, j, rows, w, u, f, 0);
       EXPECT_TRUE(holdsAt(*m[0], j, e.mean));
-      EXPECT_TRUE(s[0] == nullptr || holdsAt(*s[0], j, e.stdev));
+      EXPECT_TRUE(s[0].held == nullptr || holdsAt(*s[0], j, e.stdev));
       for (int k : {1, 3}) EXPECT_TRUE(holdsAt(*m[k], j, all.mean));
       for (int k : {1, 2}) EXPECT_TRUE(holdsAt(*s[k], j, all.stdev));
       for (int k : {0, 1}) EXPECT_TRUE(holdsAt(*v[k], j, all.variance));
@@ -89,75 +90,77 @@ TEST(Standardization, StatisticsEqualTheirDefinitionBitForBit) {
         EXPECT_TRUE(bits::equal(out[1]->getElement(i, j), keeps ? x : z));
       }
     }
-    for (auto& group : {std::vector(m, m + 4), std::vector(s, s + 4), {v[0], v[1], v[2], out[0], out[1]}}) {
-      for (const matrix* made : group) delete made;
-    }
   }
 }
 
 TEST(Standardization, TransformsEqualTheirDefinitionAndKeepFlaggedCells) {
+  using C = matrix*&;
   Random random(53);
-  for (int round = 0; round < 300; ++round) {
+  for (int round = 0; round < 40; ++round) {
     const int n = round % 9 == 0 ? 130 : random.below(7), p = 3, n2 = 5;
-    matrix table(n, p, 0.0), result(n + 1, p + 1, 7.25), second(n2, p, 0.0), third(4, p, 1.3), m(p, 1, 8.1),
-        s(p, 1, 8.1);
+    matrix table(n, p, 0.0), result(n + 1, p + 1, 7.25), second(n2, p, 0.0), third(4, p, 1.3);
     fillColumns(table, random, 1);
     fillColumns(second, random, 1);
     result.setMissing(0, 0, true);
-    matrix *a = &table, *o = &result, *b = &second, *c = &third, *means = &m, *stdevs = &s;
     const auto weights = randomWeights(random, n);
-    const matrix* w = weights.get();
+    const matrix *w = weights.get(), *none = nullptr;
     const auto u = static_cast<short>(random.below(3) - 1);
-    const struct {
-      std::function<void(int, int)> call;
-      char kind;
-      const matrix *target, *weights;
-      short unbiased, frequencies;
-    } members[] = {
-        {[&](int i, int j) { M_Center(a, i, j, o); }, 'c', o, nullptr, 0, 0},
-        {[&](int i, int j) { M_CenterW(a, i, j, w, o); }, 'c', o, w, 0, 0},
-        {[&](int i, int j) { M_Center2(a, i, j); }, 'c', a, nullptr, 0, 0},
-        {[&](int i, int j) { M_CenterW2(a, i, j, w); }, 'c', a, w, 0, 0},
-        {[&](int i, int j) { M_Reduce(a, i, j, o, u); }, 'r', o, nullptr, u, 0},
-        {[&](int i, int j) { M_ReduceW(a, i, j, w, o, u); }, 'r', o, w, u, 0},
-        {[&](int i, int j) { M_Reduce2(a, i, j, u); }, 'r', a, nullptr, u, 0},
-        {[&](int i, int j) { M_ReduceW2(a, i, j, w, u); }, 'r', a, w, u, 0},
-        {[&](int i, int j) { M_Standardize2(a, i, j, u); }, 's', a, nullptr, u, -1},
-        {[&](int i, int j) { M_Standardize3(a, i, j, means, stdevs, u); }, 's', a, nullptr, u, -1},
-        {[&](int i, int j) { M_StandardizeW2(a, i, j, w, u); }, 's', a, w, u, -1},
-        {[&](int i, int j) { M_StandardizeW(a, i, j, w, u, 0, o); }, 's', o, w, u, 0},
-        {[&](int i, int j) { M_StandardizeMatrix(a, i, j, b, n2, c, 4); }, 's', a, nullptr, -1, -1},
-        {[&](int i, int j) { M_NormalizeMatrix(b, i < 1 ? i : 5, j, c, 4, a, i); }, 's', a, nullptr, -1, -1}};
-    const int k = round % static_cast<int>(std::size(members));
-    SCOPED_TRACE(testing::Message() << "round " << round << ", member " << k);
-    const auto& member = members[k];
-    std::vector<double> expected = cellsOf(*member.target), before = expected;
-    std::vector<Expected> own;
-    for (int j = 0; j < p; ++j) {
-      const auto& [call, kind, target, used, unbiased, frequencies] = member;
-      const Expected e = k == 13 ? byDefinition(second, n2, j, nullptr, nullptr, -1, -1, 0)
-                                 : byDefinition(table, n, j, nullptr, used, unbiased, frequencies, 0);
-      own.push_back(e);
-      for (int i = 0; i < n; ++i) {
-        const int cell = i + target->nX * j;
-        if (target->missing[cell]) continue;
-        const double x = table.getElement(i, j), more = k == 13 ? std::sqrt(n2 / (n2 - 1.0)) : 1.0;
-        expected[static_cast<std::size_t>(cell)] =
-            kind == 'c' ? e.centred(x) : (kind == 'r' ? e.reduced(x) : e.standardized(x)) * more;
+    // call(rows, columns, table, result); without rows or columns it changes nothing.
+    const auto expect = [&](auto call, const matrix& target, auto transform, const matrix* used,
+                            short unbiased, short frequencies) {
+      const auto own = copyOf(table), other = copyOf(result), expected = copyOf(target);
+      matrix *a = own.get(), *o = other.get(), *changed = &target == &table ? a : o;
+      for (const int i : {0, -2, kMost}) {
+        call(i, i > 0 ? 0 : p, a, o);
+        EXPECT_TRUE(bits::equal(cellsOf(*changed), cellsOf(target)));
       }
-    }
-    for (const int i : {0, -2, kMost}) {
-      if (k == 9) break;  // statistics come with it
-      member.call(i, i > 0 ? 0 : p);
-      EXPECT_TRUE(bits::equal(cellsOf(*member.target), before));
-    }
-    member.call(n, p);
-    EXPECT_TRUE(bits::equal(cellsOf(*member.target), expected));
-    for (int j = 0; j < p && k == 9; ++j) {
-      const Expected& e = own[static_cast<std::size_t>(j)];
+      call(n, p, a, o);
+      for (int k = 0; k < n * p; ++k) {
+        const Expected e = byDefinition(table, n, k / n, nullptr, used, unbiased, frequencies, 0);
+        expected->setElement(k % n, k / n, (e.*transform)(table.values[k]));
+      }
+      EXPECT_TRUE(bits::equal(cellsOf(*changed), cellsOf(*expected)));
+    };
+    const auto centred = &Expected::centred, reduced = &Expected::reduced,
+               standardized = &Expected::standardized;
+    expect([](int i, int j, C a, C o) { M_Center(a, i, j, o); }, result, centred, none, 0, 0);
+    expect([&](int i, int j, C a, C o) { M_CenterW(a, i, j, w, o); }, result, centred, w, 0, 0);
+    expect([](int i, int j, C a, C) { M_Center2(a, i, j); }, table, centred, none, 0, 0);
+    expect([&](int i, int j, C a, C) { M_CenterW2(a, i, j, w); }, table, centred, w, 0, 0);
+    expect([&](int i, int j, C a, C o) { M_Reduce(a, i, j, o, u); }, result, reduced, none, u, 0);
+    expect([&](int i, int j, C a, C o) { M_ReduceW(a, i, j, w, o, u); }, result, reduced, w, u, 0);
+    expect([&](int i, int j, C a, C) { M_Reduce2(a, i, j, u); }, table, reduced, none, u, 0);
+    expect([&](int i, int j, C a, C) { M_ReduceW2(a, i, j, w, u); }, table, reduced, w, u, 0);
+    expect([&](int i, int j, C a, C) { M_Standardize2(a, i, j, u); }, table, standardized, none, u, -1);
+    expect([&](int i, int j, C a, C) { M_StandardizeW2(a, i, j, w, u); }, table, standardized, w, u, -1);
+    expect([&](int i, int j, C a, C o) { M_StandardizeW(a, i, j, w, u, 0, o); }, result, standardized, w, u,
+           0);
+    const auto standardizeThree = [&](int i, int j, C a, C) {
+      const auto b = copyOf(second), c = copyOf(third);
+      matrix *also = b.get(), *alsoThird = c.get();
+      M_StandardizeMatrix(a, i, j, also, n2, alsoThird, 4);
+    };
+    expect(standardizeThree, table, standardized, none, -1, -1);
+
+    // One with its statistics; another one by those of the second table, whose deviations divide by n2.
+    const auto own = copyOf(table), other = copyOf(table), expected = copyOf(table), byOther = copyOf(table),
+               copyOfSecond = copyOf(second);
+    matrix m(p, 1, 8.1), s(p, 1, 8.1), *means = &m, *stdevs = &s, *a = own.get(), *last = other.get(),
+                                       *b = copyOfSecond.get(), *c = &third;
+    M_Standardize3(a, n, p, means, stdevs, u);
+    M_NormalizeMatrix(b, n2, p, c, 4, last, n);
+    for (int j = 0; j < p; ++j) {
+      const Expected e = byDefinition(table, n, j, nullptr, nullptr, u, -1, 0);
+      const Expected of = byDefinition(second, n2, j, nullptr, nullptr, -1, -1, 0);
       EXPECT_TRUE(holdsAt(m, j, e.mean));
       EXPECT_TRUE(holdsAt(s, j, e.stdev));
+      for (int i = 0; i < n; ++i) {
+        expected->setElement(i, j, e.standardized(table.getElement(i, j)));
+        byOther->setElement(i, j, of.standardized(table.getElement(i, j)) * std::sqrt(n2 / (n2 - 1.0)));
+      }
     }
+    EXPECT_TRUE(bits::equal(cellsOf(*a), cellsOf(*expected)));
+    EXPECT_TRUE(bits::equal(cellsOf(*last), cellsOf(*byOther)));
   }
 }
 
@@ -174,21 +177,15 @@ TEST(Standardization, NormalizeDividesByTheNormsOfUsableCells) {
                      0.0, 0.0, 0.0, 2.385, 0.0}));
 }
 
-TEST(Standardization, ResultIsReplacedUnlessItsShapeFitsAndThenRefilled) {
+TEST(Standardization, ByHandIntoAResultThatIsRefilled) {
   const double cells[] = {1.0, 2.0, 3.0, 4.0, 5.0, 7.0}, sd = std::sqrt(7.0 / 3.0);
   const matrix table(3, 2, cells, true, 0, 0);
-  for (const auto& [rows, columns] : {std::pair(1, 1), {4, 3}, {3, 2}}) {
-    matrix held(rows, columns, 8.1), *out = &held, *r[3] = {};
-    held.setMissing(0, true);
+  const double expected[] = {-1.0, 0.0, 1.0, (4 - 16 / 3.) / sd, (5 - 16 / 3.) / sd, (7 - 16 / 3.) / sd};
+  const auto cell = [&](int i, int j) { return expected[i - 1 + 3 * (j - 1)]; };
+  expectMakes(3, 2, cell, [&](matrix*& out) {
+    Made<matrix> r[3];
     M_Standardize(&table, 3, 2, out, r[0], r[1], r[2], nullptr, nullptr, -1, -1);
-    const bool fits = rows == 3;
-    EXPECT_EQ(out == &held, fits);
-    EXPECT_TRUE(
-        holds(*out, 3, 2,
-              {fits ? 0.0 : -1.0, 0.0, 1.0, (4 - 16 / 3.) / sd, (5 - 16 / 3.) / sd, (7 - 16 / 3.) / sd}));
-    if (!fits) delete out;
-    for (const matrix* made : r) delete made;
-  }
+  });
 }
 
 TEST(Standardization, KnownStatisticsMayBeAnyAndTheTableItsOwnResult) {
@@ -218,57 +215,64 @@ TEST(Standardization, KnownStandardDeviationsMayBecomeTheirVariances) {
 
 TEST(Standardization, ByVectIsTheVectorMemberColumnByColumn) {
   Random random(54);
-  for (int round = 0; round < 40; ++round) {
-    const int n = 1 + round % 4 * 29, p = 3, member = round / 4 % 4;
-    matrix table(n, p, 0.0), other(n, p, 8.1), column(n, 1), result(n, 1);
+  for (const int n : {1, 30, 59, 88, 88, 59, 30, 1}) {
+    const int p = 3;
+    matrix table(n, p, 0.0), scaled(n, p, 0.0), rescaled(n, p, 0.0), column(n, 1), result(n, 1);
     fillColumns(table, random, 1);
     const auto w = randomWeights(random, n);
     const matrix ones(n, 1, 1.0), *used = w == nullptr ? &ones : w.get();
     const std::vector<short> flags = randomFlags(random, n * p);
-    matrix *a = &table, *o = &other, *r = &result;
-    std::vector<double> expected;
+    matrix* r = &result;
     for (int j = 0; j < p; ++j) {
       for (int i = 0; i < n; ++i) column.values[i] = table.getElement(i, j);
       for (int i = 0; i < n; ++i) column.setMissing(i, table.getMissing(i, j));
-      if (member < 2) V_Standardize(&column, n, flags.data() + n * j, used, -1, r);
-      if (member > 1) V_Rescale(&column, n, -2.385, 7.7, flags.data() + n * j, r);
-      for (int i = 0; i < n; ++i) {
-        const bool keeps = member % 2 == 1 && table.getMissing(i, j);
-        expected.push_back(keeps ? table.getElement(i, j) : result.getElement(i));
-      }
+      V_Standardize(&column, n, flags.data() + n * j, used, -1, r);
+      scaled.copyCol(r, 0, j);
+      V_Rescale(&column, n, -2.385, 7.7, flags.data() + n * j, r);
+      rescaled.copyCol(r, 0, j);
     }
-    if (member == 0) M_StandardizeByVect(a, n, p, flags.data(), w.get(), -1, o);
-    if (member == 1) M_StandardizeByVect2(a, n, p, flags.data(), w.get(), -1);
-    if (member == 2) M_RescaleByVect(a, n, p, -2.385, 7.7, flags.data(), o);
-    if (member == 3) M_RescaleByVect2(a, n, p, -2.385, 7.7, flags.data());
-    EXPECT_TRUE(bits::equal(cellsOf(member % 2 == 0 ? other : table), expected)) << "round " << round;
+    // In place flagged cells keep what they hold.
+    const auto expect = [&](const matrix& expected, bool inPlace, auto run) {
+      const auto own = copyOf(table);
+      matrix other(n, p, 8.1), *a = own.get(), *o = &other;
+      run(a, o);
+      for (int k = 0; k < n * p; ++k) {
+        const double x = inPlace && table.missing[k] ? table.values[k] : expected.values[k];
+        EXPECT_TRUE(bits::equal((inPlace ? a : o)->values[k], x)) << k;
+      }
+    };
+    using C = matrix*&;
+    const matrix* weights = w.get();
+    const short* f = flags.data();
+    expect(scaled, false, [&](C a, C o) { M_StandardizeByVect(a, n, p, f, weights, -1, o); });
+    expect(scaled, true, [&](C a, C) { M_StandardizeByVect2(a, n, p, f, weights, -1); });
+    expect(rescaled, false, [&](C a, C o) { M_RescaleByVect(a, n, p, -2.385, 7.7, f, o); });
+    expect(rescaled, true, [&](C a, C) { M_RescaleByVect2(a, n, p, -2.385, 7.7, f); });
   }
 }
 
-TEST(Standardization, WithoutCellsPreparesStatisticsAndChangesNothingElse) {
+TEST(Standardization, WithoutCellsRefillsStatisticsAndChangesNothingElse) {
   using C = matrix*&;
   const matrix v(3, 1, 0.5);
   matrix t(3, 2, 2.385), *a = &t, *r[4] = {};
-  const struct {
-    const char* name;
-    std::function<void(int, int, C)> run;
-  } workers[] = {
-      {"p1 Mean", [&](int i, int j, C c) { M_Mean(a, i, j, c, nullptr, &v); }},
-      {"p1 StDev", [&](int i, int j, C c) { M_MeanStDev(a, i, j, c, r[3], nullptr, &v, 0, 0, 0); }},
-      {"p1 Var", [&](int i, int j, C c) { M_MeanStDevVar(a, i, j, r[0], r[1], c, nullptr, &v, 0, 0); }},
-      {"p1 Norms", [&](int i, int j, C c) { M_Normalize(a, i, j, c, nullptr, &v, 0, 0); }},
-      {"  pNormalize", [&](int i, int j, C c) { M_Normalize(c, i, j, r[0], nullptr, &v, 0, 0); }},
-      {"  pOwn", [&](int i, int j, C c) { M_Standardize3(c, i, j, r[0], r[1], 0); }},
-      {"np All", [&](int i, int j, C c) { M_Standardize(a, i, j, c, r[0], r[1], r[2], nullptr, &v, 0, 0); }},
-      {"  pKnown",
-       [&](int i, int j, C c) { M_StandardizeKnownMeansStDev(a, i, j, &v, c, &v, r[0], nullptr); }},
-      {"  +ByVect", [&](int i, int j, C c) { M_StandardizeByVect(a, i, j, nullptr, &v, 0, c); }},
-      {"  +ByVect", [&](int i, int j, C c) { M_RescaleByVect(a, i, j, 0.0, 1.0, nullptr, c); }}};
-  for (const auto& worker : workers) {
-    WorkerCheck{3, 2, 0}.withoutCells(worker.name, [&](int i, int j, C c) {
-      worker.run(i, j, c);
-      for (matrix*& made : r) delete std::exchange(made, nullptr);
+  const Result statistics = {kP, kOne}, table = {kN, kP}, own = {kNone, kNone, kWritten},
+               besideStatistics = {kNone, kNone, kWritten, kP};
+  const auto expect = [&](Result made, auto run) {
+    WorkerCheck{3, 2}.withoutCells(made, [&](int i, int j, C c) {
+      run(i, j, c);
+      for (matrix*& other : r) delete std::exchange(other, nullptr);
     });
-  }
+  };
+  expect(statistics, [&](int i, int j, C c) { M_Mean(a, i, j, c, nullptr, &v); });
+  expect(statistics, [&](int i, int j, C c) { M_MeanStDev(a, i, j, c, r[3], nullptr, &v, 0, 0, 0); });
+  expect(statistics, [&](int i, int j, C c) { M_MeanStDevVar(a, i, j, r[0], r[1], c, nullptr, &v, 0, 0); });
+  expect(statistics, [&](int i, int j, C c) { M_Normalize(a, i, j, c, nullptr, &v, 0, 0); });
+  expect(besideStatistics, [&](int i, int j, C c) { M_Normalize(c, i, j, r[0], nullptr, &v, 0, 0); });
+  expect(besideStatistics, [&](int i, int j, C c) { M_Standardize3(c, i, j, r[0], r[1], 0); });
+  expect(table, [&](int i, int j, C c) { M_Standardize(a, i, j, c, r[0], r[1], r[2], nullptr, &v, 0, 0); });
+  expect(besideStatistics,
+         [&](int i, int j, C c) { M_StandardizeKnownMeansStDev(a, i, j, &v, c, &v, r[0], nullptr); });
+  expect(own, [&](int i, int j, C c) { M_StandardizeByVect(a, i, j, nullptr, &v, 0, c); });
+  expect(own, [&](int i, int j, C c) { M_RescaleByVect(a, i, j, 0.0, 1.0, nullptr, c); });
   EXPECT_TRUE(holds(t, 3, 2, std::vector<double>(6, 2.385)));
 }

@@ -8,12 +8,16 @@ TEST(DerivedVariables, AreAsDefined) {
   Random random(3);
   // Whole numbers, so that sums are exact in any order; flagged ones count.
   const auto fill = [&](matrix& m) {
-    for (int k = 0; k < m.nX * m.pX; ++k) m.values[k] = random.below(9) - 4.0, m.missing[k] = k % 5 == 2;
+    for (int k = 0; k < m.nX * m.pX; ++k) {
+      m.values[k] = random.below(9) - 4.0;
+      m.missing[k] = k % 5 == 2;
+    }
   };
   for (int round = 0; round < 60; ++round) {
     const int n = round % 5, p = round / 5 % 6;
     matrix l(n + random.below(2), p, 0.0), s(p, p, 0.0), *variances = nullptr;
-    fill(l), fill(s);
+    fill(l);
+    fill(s);
     const auto cell = [&](int i, int j) {
       double sum = 0.0;
       for (int k = 1; k <= p * p; ++k) {

@@ -48,10 +48,13 @@ TEST(Qualitative, SummariesAndFrequenciesAreAsDefined) {
       modes.push_back(mode == of.end() ? u"" : mode->first);
       heaviest.push_back(mode == of.end() ? 0.0 : mode->second);
       counts.push_back(double(of.size()));
-      for (const auto& text : order) list.push_back(text), weights.push_back(of[text]);
+      for (const auto& text : order) {
+        list.push_back(text);
+        weights.push_back(of[text]);
+      }
     }
-    Smatrix *modesIs = nullptr, *listIs = nullptr;
-    matrix *foundIs = nullptr, *heaviestIs = nullptr, *countsIs = nullptr, *weightsIs = nullptr;
+    Made<Smatrix> modesIs, listIs;
+    Made<matrix> foundIs, heaviestIs, countsIs, weightsIs;
     int length = 77;
     M_InfoQualiValid(&table, n, p, columns, total, sizes, &known, foundIs, round % 5 == 0 ? nullptr : &told,
                      exclude, w.get());
@@ -62,20 +65,18 @@ TEST(Qualitative, SummariesAndFrequenciesAreAsDefined) {
     EXPECT_TRUE(firstOf(modesIs->cells, modesIs->nX) == modes && firstOf(listIs->cells, listIs->nX) == list);
     EXPECT_TRUE(holds(*foundIs, int(found.size()), 1, found) && holds(*heaviestIs, p, 1, heaviest));
     EXPECT_TRUE(holds(*countsIs, p, 1, counts) && holds(*weightsIs, int(list.size()), 1, weights));
-    delete modesIs, delete listIs, delete foundIs;
-    delete heaviestIs, delete countsIs, delete weightsIs;
   }
 }
 
 TEST(Qualitative, ManyKindsTakeNoLonger) {
   const int n = 100000;
-  Smatrix table(n, 1), *modes = nullptr, *list = nullptr;
+  Smatrix table(n, 1);
+  Made<Smatrix> modes, list;
   for (int i = 0; i < n; ++i) table.cells[i] = {char16_t(400 - i % 250), char16_t(400 + i / 250 % 200)};
-  matrix *heaviest = nullptr, *counts = nullptr, *weights = nullptr;
+  Made<matrix> heaviest, counts, weights;
   M_InfoQuali(&table, n, 1, modes, heaviest, nullptr, counts, list, weights, nullptr, nullptr, kTrue);
   EXPECT_TRUE(holds(*weights, n / 2, 1, std::vector<double>(n / 2, 2.0)));
   EXPECT_EQ(std::adjacent_find(list->cells, list->cells + n / 2, std::greater_equal<>()),
             list->cells + n / 2);
   EXPECT_TRUE(holds(*heaviest, 1, 1, {2.0}) && modes->cells[0] == table.cells[249]);
-  delete modes, delete list, delete heaviest, delete counts, delete weights;
 }

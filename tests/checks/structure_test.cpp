@@ -32,19 +32,24 @@ TEST(Structure, SquareTablesAreAsDefined) {
       m.missing[k] = random.below(5) == 0 && kind != 4;
       m.values[k] = any[isEmpty && !m.missing[k] ? 2 + random.below(3) : random.below(5)];
       if (kind == 4 && k % (n + 1) == 0 && k != exception) m.values[k] = same;
-      if (kind == 0 && below < 0) m.values[k] = at(m, mirrored(k)).value_or(kMissing), m.missing[k] = false;
+      if (kind == 0 && below < 0) {
+        m.values[k] = at(m, mirrored(k)).value_or(kMissing);
+        m.missing[k] = false;
+      }
     }
     bool symmetric = true, constant = true, lower = true, upper = true;
     for (int k = 0; k < n * n; ++k) {
       const bool isFilled = at(m, k).value_or(0.0) != 0.0;
       symmetric = symmetric && at(m, k) == at(m, mirrored(k));
       constant = constant && (k % (n + 1) > 0 || at(m, k) == at(m, 0));
-      lower = lower && !(isFilled && k % n < k / n), upper = upper && !(isFilled && k % n > k / n);
+      lower = lower && !(isFilled && k % n < k / n);
+      upper = upper && !(isFilled && k % n > k / n);
     }
     const auto expected = copyOf(m);
     for (int k = 0; k < n * n && update == -1 && lower != upper; ++k) {
       const int from = (lower ? k % n < k / n : k % n > k / n) ? mirrored(k) : k;
-      expected->values[k] = m.values[from], expected->missing[k] = m.missing[from];
+      expected->values[k] = m.values[from];
+      expected->missing[k] = m.missing[from];
     }
     EXPECT_EQ(M_IsSymmetric(&m, n), symmetric ? -1 : 0) << round;
     EXPECT_EQ(M_IsDiagConstant(&m, n), constant ? -1 : 0) << round;
@@ -67,7 +72,10 @@ TEST(Structure, DisjunctiveTablesAreAsDefined) {
     const short* const exclude = round % 4 == 0 ? nullptr : flags.data();
     std::vector<int> rows, ones;
     for (int i = 0; i < n; ++i) {
-      if (exclude == nullptr || exclude[i] == 0) rows.push_back(i), ones.push_back(0);
+      if (exclude == nullptr || exclude[i] == 0) {
+        rows.push_back(i);
+        ones.push_back(0);
+      }
     }
     bool valid = !rows.empty();
     for (int j = 0; j < p && valid; ++j) {
@@ -109,7 +117,8 @@ TEST(Structure, ConstantColumns) {
   matrix a(2, 2, 4.75);
   for (const auto& [x, y, first] :
        {std::tuple(1.5, 1.0, 2), {NAN, NAN, 2}, {kMissing, kMissing, 1}, {0.0, -0.0, 1}}) {
-    a.values[0] = x, a.values[1] = y;
+    a.values[0] = x;
+    a.values[1] = y;
     EXPECT_EQ(M_IsColConstant(&a, 2, 2), first);
     EXPECT_EQ(M_IsColConstant(&a, 2, 1), first % 2);
   }

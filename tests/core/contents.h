@@ -37,6 +37,20 @@ inline auto arraysOf(matrix& m) {
                   m.norsigma);
 }
 
+/// A result that a worker makes or makes anew; owns what it ends with.
+template <class Container>
+struct Made {
+  Made() = default;
+  Made(const Made&) = delete;
+  ~Made() { delete held; }
+
+  operator Container*&() { return held; }
+  Container& operator*() const { return *held; }
+  Container* operator->() const { return held; }
+
+  Container* held = nullptr;
+};
+
 /// Assigns source to target and, in the end, gives target back the arrays that it held, so that both can be
 /// destroyed and nothing leaks.
 class Sharing {

@@ -32,7 +32,8 @@ TEST(MatrixProjection, StepsEqualTheirDefinitionBitForBit) {
       // Every fourth round t is a row short and reads -1.0 there; now and then a whole line is absent.
       const int results = byRow ? n : p, terms = byRow ? p : n;
       matrix x(n, p, 0.0), t(terms - (round % 4 == 0 && k == 1 && terms > 1), 2, 0.0);
-      fill(x, random), fill(t, random);
+      fill(x, random);
+      fill(t, random);
       for (int i = 0; i < t.nX * 2 && round % 2 == 0; ++i) t.values[i] = random.uniform(-9.0, 9.0);
       for (int i = 0; i < n * p && round % 5 == 0; ++i)
         x.missing[i] = x.missing[i] || i % (byRow ? n : p) == 0;

@@ -15,7 +15,7 @@ TEST(MatrixColumns, StatisticsAndNormalizationEqualTheirDefinition) {
     if (n > 4 && round % 5 == 0) m.weights[n - 1] = 0.0;
     std::vector<double> statistics, normalization, cells = cellsOf(m);
     for (int j = 0; j < p; ++j) {
-      WeightedUpdate sums;
+      definitions::WeightedUpdate sums;
       for (int i = 0; i < n; ++i) {
         if (!m.getMissing(i, j)) sums.add(m.getElement(i, j), m.getElement(i, j), m.weights[i]);
       }

@@ -3,96 +3,13 @@
 #include <numbers>
 #include <numeric>
 
+#include "definitions/eigenvalues.h"
 #include "kavoratb1c/decomp/singular_values.h"
 #include "support/test_matrices.h"
 
 using namespace kav;
 
-namespace {
-
 using test_matrices::residual;
-
-double length(double a, double b) {
-  const double more = std::max(std::fabs(a), std::fabs(b)), less = std::min(std::fabs(a), std::fabs(b));
-  return more == 0.0 ? 0.0 : more * std::sqrt(1.0 + (less / more) * (less / more));
-}
-
-/// Reduction and QL steps as published, cell by cell, 1-based: z has the table, then its vectors, d the
-/// values.
-int decompose(matrix& z, int n, double* d) {
-  std::vector<double> room(static_cast<std::size_t>(n) + 2);
-  double* e = room.data();
-  const auto cell = [&](int i, int j) { return z.vbget(i, j); };
-  const auto sum = [](int first, int last, auto term, double total = 0.0) {
-    for (int k = first; k <= last; ++k) total += term(k);
-    return total;
-  };
-  for (int i = n; i > 1; --i) {
-    const int l = i - 1;
-    const double scale = l == 1 ? 0.0 : sum(1, l, [&](int k) { return std::fabs(cell(i, k)); });
-    d[i] = 0.0, e[i] = cell(i, l);
-    if (scale == 0.0) continue;
-    for (int k = 1; k <= l; ++k) z.vbset(i, k, cell(i, k) / scale);
-    const double squares = sum(1, l, [&](int k) { return cell(i, k) * cell(i, k); }), f = cell(i, l);
-    const double g = f >= 0.0 ? -std::sqrt(squares) : std::sqrt(squares), h = d[i] = squares - f * g;
-    e[i] = scale * g;
-    z.vbset(i, l, f - g);
-    double product = 0.0;
-    for (int j = 1; j <= l; ++j) {
-      z.vbset(j, i, cell(i, j) / h);
-      const double upTo = sum(1, j, [&](int k) { return cell(j, k) * cell(i, k); });
-      e[j] = sum(
-                 j + 1, l, [&](int k) { return cell(k, j) * cell(i, k); }, upTo) /
-             h;
-      product += e[j] * cell(i, j);
-    }
-    for (int j = 1; j <= l; ++j) {
-      const double u = cell(i, j);
-      e[j] -= product / (h + h) * u;
-      for (int k = 1; k <= j; ++k) z.vbset(j, k, cell(j, k) - (u * e[k] + e[j] * cell(i, k)));
-    }
-  }
-  d[1] = 0.0;
-  for (int i = 1; i <= n; ++i) {
-    for (int j = 1; j < i && d[i] != 0.0; ++j) {
-      const double product = sum(1, i - 1, [&](int k) { return cell(i, k) * cell(k, j); });
-      for (int k = 1; k < i; ++k) z.vbset(k, j, cell(k, j) - product * cell(k, i));
-    }
-    d[i] = cell(i, i);
-    z.vbset(i, i, 1.0);
-    for (int j = 1; j < i; ++j) z.vbset(i, j, 0.0), z.vbset(j, i, 0.0);
-  }
-  for (int i = 1; i <= n; ++i) e[i] = i < n ? e[i + 1] : 0.0;
-  for (int l = 1, steps = 0; l <= n;) {
-    const auto beside = [&](int k) { return std::fabs(d[k]) + std::fabs(d[k + 1]); };
-    int m = l, i;
-    while (m < n && std::fabs(e[m]) + beside(m) != beside(m)) ++m;
-    if (m == l) {
-      ++l, steps = 0;
-      continue;
-    }
-    if (++steps + 1 == 30) return -1;
-    double g = (d[l + 1] - d[l]) / (2.0 * e[l]), c = 1.0, s = 1.0, p = 0.0;
-    g = d[m] - d[l] + e[l] / (g + std::copysign(length(g, 1.0), g));
-    for (i = m - 1; i >= l; --i) {
-      const double f = s * e[i], b = c * e[i], r = e[i + 1] = length(f, g);
-      if (r == 0.0) break;
-      s = f / r, c = g / r, g = d[i + 1] - p;
-      const double t = (d[i] - g) * s + 2.0 * c * b;
-      p = s * t, d[i + 1] = g + p, g = c * t - b;
-      for (int k = 1; k <= n; ++k) {
-        const double left = cell(k, i), right = cell(k, i + 1);
-        z.vbset(k, i + 1, s * left + c * right), z.vbset(k, i, c * left - s * right);
-      }
-    }
-    d[i < l ? l : i + 1] -= p;
-    if (i < l) e[l] = g;
-    e[m] = 0.0;
-  }
-  return 0;
-}
-
-}  // namespace
 
 TEST(Eigen, EqualsItsDefinitionBitForBit) {
   Random random(72);
@@ -109,7 +26,7 @@ TEST(Eigen, EqualsItsDefinitionBitForBit) {
                                                                                   *madeZ = &vectors;
       for (int k = 0; k < n * n; ++k) vectors.missing[k] = z.missing[k] = flags && random.below(20) == 0;
       byDefinition(z, n, n, [&](int i, int j) { return a->vbget(std::max(i, j), std::min(i, j)); });
-      const int status = decompose(z, n, d.values - 1);
+      const int status = definitions::eigenvalues(definitions::Elements{z}, n, d.values);
       EXPECT_EQ(M_Eigen(lower.get(), madeD, madeZ, n, sort), status);
       std::vector<int> order(static_cast<std::size_t>(n));
       std::iota(order.begin(), order.end(), 0);

@@ -1,11 +1,14 @@
 #include "kernels/kernels.h"
 
+#include "definitions/nearest_neighbours.h"
 #include "support/corpus.h"
 #include "support/tables.h"
 
 using namespace kav;
 
 namespace {
+
+using definitions::WeightedUpdate;
 
 using Cells = std::vector<double>;
 using kernels::Product, kernels::View;
@@ -182,12 +185,14 @@ TEST(Kernels, DistancesEqualTheirDefinitionBitForBit) {
       const auto cell = [&] { return random.below(20) < round % 13 ? few[2] : random.below(4) / 0.7; };
       Cells rows, row, ranges, expected(lanes + 1, 0.0), squared(lanes + 1, 0.0);
       for (int k = 0; k < stride * columns; ++k) rows.push_back(cell());
-      for (int j = 0; j < columns; ++j) row.push_back(cell()), ranges.push_back(few[random.below(6)]);
+      for (int j = 0; j < columns; ++j) {
+        row.push_back(cell());
+        ranges.push_back(few[random.below(6)]);
+      }
       for (int k = 0; k < lanes * columns; ++k) {
         const int lane = k % lanes, j = k / lanes;
-        const double x = row[j], y = rows[lane + stride * j];
-        const double d = ranges[j] > 0.0 ? (x - y) / ranges[j] : x == y ? 0.0 : 1.0;
-        expected[lane] += std::isnan(d) ? 1.0 : d * d;
+        const double d = definitions::difference(row[j], rows[lane + stride * j], ranges[j]);
+        expected[lane] += d * d;
       }
       const double least = *std::min_element(expected.begin(), expected.end() - 1);
       const double bounds[] = {least, std::nextafter(least, 1e9), expected[0], HUGE_VAL, 0.0, least / 2.0,

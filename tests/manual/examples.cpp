@@ -7,128 +7,13 @@
 #include <sstream>
 
 #include "kavoratb1c/marker.h"
-#include "manual/calls.h"
-#include "manual/notation.h"
+#include "manual/arguments.h"
 
 using namespace kav;
 
 namespace manual {
 
 namespace {
-
-using Cells = std::vector<Cell>;
-
-/// Cells behind every array: an example with a wrong shape must not harm the test.
-constexpr std::size_t kGuard = 1000;
-
-/// What no entry gives: fills results before a call, and stands behind every array.
-template <class T>
-T untouched() {
-  if constexpr (std::is_same_v<T, double>) {
-    return 7.25e77;
-  } else if constexpr (std::is_same_v<T, VARIANT_BOOL>) {
-    return 77;
-  } else {
-    return 77777777;
-  }
-}
-
-BSTR newText(const std::u16string& text) {
-  return SysAllocString(reinterpret_cast<const OLECHAR*>(text.c_str()));
-}
-
-std::u16string textAt(BSTR text) {
-  const auto* characters = reinterpret_cast<const char16_t*>(text);
-  return characters == nullptr ? std::u16string()
-                               : std::u16string(characters, SysStringByteLen(text) / sizeof(char16_t));
-}
-
-/// An array as it is handed to an entry.
-class Array {
- public:
-  Array(const std::string& type, const Cells& cells) : size_(cells.size()) {
-    if (type == "double*") {
-      address_ = fill(doubles_, cells);
-    } else if (type == "int*") {
-      address_ = fill(ints_, cells);
-    } else if (type == "VARIANT_BOOL*") {
-      address_ = fill(flags_, cells);
-    } else {
-      for (const Cell& cell : cells) given_.push_back(newText(cell.text));
-      texts_ = given_;
-      texts_.resize(size_ + kGuard);
-      address_ = texts_.data();
-    }
-    before_ = bytes();
-  }
-  Array(const Array&) = delete;
-  ~Array() {
-    for (std::size_t k = 0; k < texts_.size(); ++k) {
-      if (k >= given_.size() || texts_[k] != given_[k]) SysFreeString(texts_[k]);
-    }
-    for (BSTR text : given_) SysFreeString(text);
-  }
-
-  Actual address() const { return address_; }
-
-  Cells cells() const {
-    Cells result(size_);
-    for (std::size_t k = 0; k < size_; ++k) {
-      if (!doubles_.empty()) result[k].number = doubles_[k];
-      if (!ints_.empty()) result[k].number = ints_[k];
-      if (!flags_.empty()) result[k].number = flags_[k];
-      if (!texts_.empty()) {
-        result[k].isText = true;
-        result[k].text = textAt(texts_[k]);
-      }
-    }
-    return result;
-  }
-
-  bool wasWritten() const { return bytes() != before_; }
-
-  bool wasOverrun() const {
-    return isOverrun(doubles_) || isOverrun(ints_) || isOverrun(flags_) ||
-           std::any_of(texts_.begin() + (texts_.empty() ? 0 : end()), texts_.end(),
-                       [](BSTR text) { return text != nullptr; });
-  }
-
- private:
-  template <class T>
-  static T* fill(std::vector<T>& array, const Cells& cells) {
-    for (const Cell& cell : cells) array.push_back(static_cast<T>(cell.number));
-    array.resize(cells.size() + kGuard, untouched<T>());
-    return array.data();
-  }
-
-  std::ptrdiff_t end() const { return static_cast<std::ptrdiff_t>(size_); }
-
-  template <class T>
-  bool isOverrun(const std::vector<T>& array) const {
-    return std::any_of(array.begin() + (array.empty() ? 0 : end()), array.end(),
-                       [](T x) { return x != untouched<T>(); });
-  }
-
-  std::string bytes() const {
-    std::string result;
-    const auto append = [&](const auto& array) {
-      result.append(reinterpret_cast<const char*>(array.data()), array.size() * sizeof(array[0]));
-    };
-    append(doubles_);
-    append(ints_);
-    append(flags_);
-    append(texts_);
-    return result;
-  }
-
-  std::size_t size_;
-  std::vector<double> doubles_;
-  std::vector<int> ints_;
-  std::vector<VARIANT_BOOL> flags_;
-  std::vector<BSTR> texts_, given_;
-  Actual address_;
-  std::string before_;
-};
 
 std::string plain(const std::u16string& text) { return std::string(text.begin(), text.end()); }
 
@@ -141,7 +26,7 @@ std::string shown(const Cells& cells) {
       out << '"' << plain(cells[k].text) << '"';
     } else if (isMarker(cells[k].number)) {
       out << "missing";
-    } else if (cells[k].number == untouched<double>() || cells[k].number == untouched<int>()) {
+    } else if (cells[k].number == kUntouched<double> || cells[k].number == kUntouched<int>) {
       out << "(not written)";
     } else {
       out << cells[k].number;
@@ -211,7 +96,7 @@ class Block {
       const Statement& s = statements_[k];
       if (s.kind != Statement::Kind::Comparison || s.name != name) continue;
       Cells cells = value(s.value);
-      for (Cell& cell : cells) cell = Cell{cell.isText, untouched<double>(), 0.0, {}};
+      for (Cell& cell : cells) cell = Cell{cell.isText, kUntouched<double>, 0.0, {}};
       return cells;
     }
     throw Fault(name + " has neither a value nor is it compared below");
@@ -225,17 +110,21 @@ class Block {
       throw Fault(std::to_string(s.arguments.size()) + " arguments for " +
                   std::to_string(entry.parameters.size()));
     }
-    std::deque<Array> arrays;
+    std::deque<Argument> passed;
     std::vector<Actual> actuals;
-    std::map<std::size_t, const Array*> passed;
+    std::map<std::size_t, const Argument*> arrays;
     for (std::size_t k = 0; k < s.arguments.size(); ++k) {
-      actuals.push_back(actual(entry.parameters[k], s.arguments[k], arrays));
-      if (entry.parameters[k].type.back() == '*' && s.arguments[k].kind != Expression::Kind::Null) {
-        passed[k] = &arrays.back();
+      const std::string& type = entry.parameters[k].type;
+      if (s.arguments[k].kind == Expression::Kind::Null) {
+        actuals.push_back(nullOf(type));
+        continue;
       }
+      passed.emplace_back(type, cellsFor(entry.parameters[k], s.arguments[k]));
+      actuals.push_back(passed.back().actual());
+      if (type.back() == '*') arrays[k] = &passed.back();
     }
     const Result result = manual::call(entry, actuals);
-    for (const auto& [k, array] : passed) {
+    for (const auto& [k, array] : arrays) {
       const CatalogueParameter& parameter = entry.parameters[k];
       const bool isWritten = parameter.direction != "in";
       if (array->wasOverrun()) throw Fault("writes beyond the end of " + parameter.name);
@@ -250,29 +139,13 @@ class Block {
     outcome.shown.insert(s.name);
   }
 
-  Actual actual(const CatalogueParameter& parameter, const Expression& e, std::deque<Array>& arrays) const {
-    const bool isArray = parameter.type.back() == '*';
-    if (e.kind == Expression::Kind::Null) return null(parameter.type);
+  Cells cellsFor(const CatalogueParameter& parameter, const Expression& e) const {
     const bool isFresh =
         e.kind == Expression::Kind::Name && parameter.direction != "in" && variables_.count(e.name) == 0;
     const Cells cells = isFresh ? fresh(e.name) : value(e);
-    if (isArray || parameter.type == "BSTR") {
-      arrays.emplace_back(isArray ? parameter.type : "BSTR*", cells);
-      return isArray ? arrays.back().address() : *std::get<BSTR*>(arrays.back().address());
-    }
-    if (cells.size() != 1 || cells[0].isText) throw Fault(parameter.name + " is one number");
-    if (parameter.type == "double") return cells[0].number;
-    if (parameter.type == "int") return static_cast<int>(cells[0].number);
-    return static_cast<VARIANT_BOOL>(cells[0].number);
-  }
-
-  static Actual null(const std::string& type) {
-    if (type == "double*") return static_cast<double*>(nullptr);
-    if (type == "int*") return static_cast<int*>(nullptr);
-    if (type == "VARIANT_BOOL*") return static_cast<VARIANT_BOOL*>(nullptr);
-    if (type == "BSTR*") return static_cast<BSTR*>(nullptr);
-    if (type == "BSTR") return static_cast<BSTR>(nullptr);
-    throw Fault("nothing is for arrays and texts");
+    const bool isText = parameter.type == "BSTR", isNumber = !isText && parameter.type.back() != '*';
+    if (isNumber && (cells.size() != 1 || cells[0].isText)) throw Fault(parameter.name + " is one number");
+    return cells;
   }
 
   static Cells resultCells(const Result& result) {

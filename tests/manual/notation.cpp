@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <map>
 #include <sstream>
 
 #include "kavoratb1c/marker.h"
@@ -14,6 +15,12 @@ using namespace kav;
 namespace manual {
 
 namespace {
+
+const std::map<std::string, double> kConstants = {{"missing", kMissing},
+                                                  {"NaN", std::numeric_limits<double>::quiet_NaN()},
+                                                  {"Infinity", std::numeric_limits<double>::infinity()},
+                                                  {"True", kTrue},
+                                                  {"False", kFalse}};
 
 class Reader {
  public:
@@ -65,26 +72,17 @@ class Reader {
     return text_.substr(begin, at_ - begin);
   }
 
+  /// Whether a name or a constant follows.
+  bool isWordNext() { return std::isalpha(static_cast<unsigned char>(peek())) != 0; }
+
   Expression expression() {
-    Expression result;
-    const char next = peek();
-    if (next == '{') {
-      result.kind = Expression::Kind::Array;
-      result.cells = table();
-    } else if (next == '"' || next == '-' || std::isdigit(static_cast<unsigned char>(next))) {
-      result.cells.push_back(cell());
-    } else {
-      const std::string name = word();
-      if (name == "nothing") {
-        result.kind = Expression::Kind::Null;
-      } else if (Cell constant; isConstant(name, constant)) {
-        result.cells.push_back(constant);
-      } else {
-        result.kind = Expression::Kind::Name;
-        result.name = name;
-      }
-    }
-    return result;
+    if (peek() == '{') return {Expression::Kind::Array, {}, table()};
+    if (!isWordNext()) return {Expression::Kind::Scalar, {}, {cell()}};
+    const std::string name = word();
+    if (name == "nothing") return {Expression::Kind::Null};
+    const auto constant = kConstants.find(name);
+    if (constant == kConstants.end()) return {Expression::Kind::Name, name};
+    return {Expression::Kind::Scalar, {}, {{false, constant->second}}};
   }
 
   std::vector<Cell> table() {
@@ -108,52 +106,39 @@ class Reader {
     return cells;
   }
 
-  static bool isConstant(const std::string& name, Cell& cell) {
-    if (name == "missing") {
-      cell.number = kMissing;
-    } else if (name == "NaN") {
-      cell.number = std::numeric_limits<double>::quiet_NaN();
-    } else if (name == "Infinity") {
-      cell.number = std::numeric_limits<double>::infinity();
-    } else if (name == "True" || name == "False") {
-      cell.number = asFlag(name == "True");
-    } else {
-      return false;
-    }
-    return true;
+  Cell cell() {
+    if (accept("\"")) return text();
+    if (!isWordNext()) return number();
+    const std::string name = word();
+    const auto constant = kConstants.find(name);
+    if (constant == kConstants.end()) throw Fault("no number: " + name);
+    return {false, constant->second};
   }
 
-  Cell cell() {
-    Cell result;
-    if (accept("\"")) {
-      const std::size_t end = text_.find('"', at_);
-      if (end == std::string::npos) throw Fault("a text without end");
-      result.isText = true;
-      result.text.assign(text_.begin() + static_cast<std::ptrdiff_t>(at_),
-                         text_.begin() + static_cast<std::ptrdiff_t>(end));
-      at_ = end + 1;
-      return result;
-    }
-    const char next = peek();
-    if (next != '-' && !std::isdigit(static_cast<unsigned char>(next))) {
-      const std::string name = word();
-      if (!isConstant(name, result)) throw Fault("no number: " + name);
-      return result;
-    }
-    const char* begin = text_.c_str() + at_;
+  Cell text() {
+    const std::size_t begin = at_, end = text_.find('"', at_);
+    if (end == std::string::npos) throw Fault("a text without end");
+    at_ = end + 1;
+    const std::string characters = text_.substr(begin, end - begin);
+    return {true, 0.0, 0.0, std::u16string(characters.begin(), characters.end())};
+  }
+
+  /// With half a unit of the last decimal as its tolerance.
+  Cell number() {
+    peek();
+    const char* const begin = text_.c_str() + at_;
     char* end = nullptr;
+    Cell result;
     result.number = std::strtod(begin, &end);
-    const std::string digits(begin, static_cast<std::size_t>(end - begin));
+    const std::string digits(begin, static_cast<const char*>(end));
     if (digits.empty()) throw Fault("no number before '" + text_.substr(at_) + "'");
     at_ += digits.size();
     const std::size_t exponentAt = std::min(digits.find_first_of("eE"), digits.size());
-    const std::size_t point = digits.find('.');
-    if (point != std::string::npos || exponentAt < digits.size()) {
-      const int decimals =
-          point == std::string::npos ? 0 : static_cast<int>(exponentAt) - static_cast<int>(point) - 1;
-      const int exponent = exponentAt < digits.size() ? std::atoi(digits.c_str() + exponentAt + 1) : 0;
-      result.tolerance = 0.5000001 * std::pow(10.0, exponent - decimals);
-    }
+    const std::size_t point = std::min(digits.find('.'), exponentAt);
+    if (point == digits.size()) return result;
+    const auto decimals = static_cast<int>(std::max(exponentAt, point + 1) - point - 1);
+    const int exponent = exponentAt < digits.size() ? std::stoi(digits.substr(exponentAt + 1)) : 0;
+    result.tolerance = 0.5000001 * std::pow(10.0, exponent - decimals);
     return result;
   }
 

@@ -29,7 +29,8 @@ TEST(Estimates, AreTheMeanAndTheModeOfEachColumn) {
     for (int j = 0; j < p; ++j) {
       matrix values(8, 1, 0.0);
       for (int i = 0; i < m; ++i) {
-        values.setElement(i, learned->getElement(i, j)), values.setMissing(i, learned->getMissing(i, j));
+        values.setElement(i, learned->getElement(i, j));
+        values.setMissing(i, learned->getMissing(i, j));
         column.setElement(i, weights->getElement(i) == 0.0 ? u"" : taught.getElement(i, j));
       }
       const double mean = V_Mean(&values, m, flags ? flags : none.data(), weights);
@@ -37,7 +38,10 @@ TEST(Estimates, AreTheMeanAndTheModeOfEachColumn) {
       for (int i = 0; i < n; ++i) {
         if (!a->getMissing(i, j)) continue;
         modes.setElement(i, j, mode);
-        if (std::isfinite(mean)) means->setMissing(i, j, false), means->setElement(i, j, mean);
+        if (std::isfinite(mean)) {
+          means->setMissing(i, j, false);
+          means->setElement(i, j, mean);
+        }
       }
     }
     if (round % 2 == 0) {

@@ -41,11 +41,14 @@ int missingOf(const matrix& a, int i, int p) {
 TEST(MissingCells, CountedFlaggedWeightedAndReplacedAsDefined) {
   forAllExtents([](const matrix& a, const Smatrix& texts, int n, int p) {
     std::vector<int> missing(6, 99), empty = missing, actual = missing, ofTexts = missing, others = missing;
-    M_NbMissing(&a, n, p, actual.data()), M_NbMissing(&texts, n, p, ofTexts.data());
-    M_NbNonMissing(&a, n, p, others.data()), M_NbNonMissing(&a, n, p, nullptr);
+    M_NbMissing(&a, n, p, actual.data());
+    M_NbMissing(&texts, n, p, ofTexts.data());
+    M_NbNonMissing(&a, n, p, others.data());
+    M_NbNonMissing(&a, n, p, nullptr);
     const Flags before = {0, 7, 0, 0, -1, 0, 99};
     Flags any = before, all = before, ofAny = any, ofAll = all, anyText = any, allText = all;
-    M_AllMissingRows(&a, n, p, ofAny.data(), nullptr), M_AllMissingRows(&a, n, p, nullptr, ofAll.data());
+    M_AllMissingRows(&a, n, p, ofAny.data(), nullptr);
+    M_AllMissingRows(&a, n, p, nullptr, ofAll.data());
     M_AllMissingRows(&texts, n, p, anyText.data(), allText.data());
     for (int j = 0; j < p; ++j) {
       missing[j] = empty[j] = 0;
@@ -61,8 +64,10 @@ TEST(MissingCells, CountedFlaggedWeightedAndReplacedAsDefined) {
     EXPECT_TRUE(ofAny == any && ofAll == all && anyText == any && allText == all);
     for (int pW = -1; pW < 3; ++pW) {
       matrix w(pW == 1 ? 3 : 6, 2, 4.75), weights(w.nX, 2, 4.75);
-      w.setMissing(1, 0, true), weights.setMissing(1, 0, true);
-      M_SetWeightsToZeroForMissing(&a, n, p, &w, pW), M_SetWeightsToZeroForMissing(&a, n, p, nullptr, pW);
+      w.setMissing(1, 0, true);
+      weights.setMissing(1, 0, true);
+      M_SetWeightsToZeroForMissing(&a, n, p, &w, pW);
+      M_SetWeightsToZeroForMissing(&a, n, p, nullptr, pW);
       for (int k = 0; k < std::max(n, 0) * pW; ++k) {
         if (missingOf(a, k % n, p) > 0) weights.setElement(k % n, k / n, 0.0);
       }
@@ -75,10 +80,14 @@ TEST(MissingCells, CountedFlaggedWeightedAndReplacedAsDefined) {
     filled->descValid = expected->descValid = 1;
     for (int k = 0, i = 0, j = 0; k < 6 * 6; ++k, i = k % 6, j = k / 6) {
       if (i >= n || j >= p || !a.getMissing(i, j)) continue;
-      expected->setMissing(i, j, false), expected->setElement(i, j, 2.385), replaced[i + 4 * j] = u"none";
+      expected->setMissing(i, j, false);
+      expected->setElement(i, j, 2.385);
+      replaced[i + 4 * j] = u"none";
     }
-    M_ReplaceMissingByVal(filled.get(), n, p, 2.385), M_ReplaceMissingByVal(nullptr, n, p, 2.385);
-    M_ReplaceMissingByStr(&labels, n, p, u"none"), M_ReplaceMissingByStr(nullptr, n, p, u"none");
+    M_ReplaceMissingByVal(filled.get(), n, p, 2.385);
+    M_ReplaceMissingByVal(nullptr, n, p, 2.385);
+    M_ReplaceMissingByStr(&labels, n, p, u"none");
+    M_ReplaceMissingByStr(nullptr, n, p, u"none");
     EXPECT_TRUE(holds(*filled, 4, 3, cellsOf(*expected)) && flagsOf(*filled) == flagsOf(*expected));
     EXPECT_EQ(filled->descValid, expected->descValid);
     EXPECT_EQ(firstOf(labels.cells, 12), replaced);
@@ -98,11 +107,13 @@ TEST(MissingCells, SummariesOfFlagsThatMayBeNull) {
     any[after] = both[after] = 99;
     SummarizeMissing(n, nullptr, nullptr, of[0], of[1], of[2]);
     SummarizeMissing(n, &anyCount, any, of[0], of[1], of[2]);
-    SummarizeAllMissing(n, of[0], of[1], &bothCount, both), SummarizeAllMissing(n, 0, 0, nullptr, nullptr);
+    SummarizeAllMissing(n, of[0], of[1], &bothCount, both);
+    SummarizeAllMissing(n, 0, 0, nullptr, nullptr);
     for (int i = 0; i < n; ++i) {
       EXPECT_EQ(any[i], asFlag((i & k & 7) != 0));
       EXPECT_EQ(both[i], asFlag((k & 3) == 3 ? (i & 3) == 3 : (i & k & 3) != 0));
-      anyCount += any[i], bothCount += both[i];
+      anyCount += any[i];
+      bothCount += both[i];
     }
     EXPECT_TRUE(anyCount == 0 && bothCount == 0 && any[after] == 99 && both[after] == 99) << n;
   }
@@ -152,11 +163,15 @@ TEST(MissingCells, FlaggedRowsAreLabelledByTheirNumber) {
   const short flags[] = {0, -1, 7, 0, 0, 0, 0, 0, 0, 0, 0, -1, -1};
   for (const int n : {INT_MIN, 0, 1, 2, 12, 13}) {
     Smatrix labels(6, 2);
-    ReplaceMissingObsLabels(&labels, n, nullptr, u"all"), ReplaceMissingObsLabels(nullptr, n, flags, u"");
+    ReplaceMissingObsLabels(&labels, n, nullptr, u"all");
+    ReplaceMissingObsLabels(nullptr, n, flags, u"");
     ReplaceMissingObsLabels(&labels, n, flags, u"Obs");
     Texts expected(12);
     if (n >= 2) expected[1] = u"Obs2";
-    if (n >= 12) expected[2] = u"Obs3", expected[11] = u"Obs12";
+    if (n >= 12) {
+      expected[2] = u"Obs3";
+      expected[11] = u"Obs12";
+    }
     EXPECT_EQ(firstOf(labels.cells, 12), expected);
   }
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "definitions/nearest_neighbours.h"
 #include "support/tables.h"
 
 using namespace kav;
@@ -53,39 +54,30 @@ std::unique_ptr<matrix> randomRows(Random& random, int n, int p1, int p, int lab
   return rows;
 }
 
-/// Fills the first n rows from the first m others, every distance to its end. NaN cannot be given.
+/// Fills the first n rows from the first m others. NaN cannot be given.
 std::unique_ptr<matrix> byDefinition(const matrix& rows, int n, int p, const matrix& learned, int m,
                                      const short* flags, const matrix* w) {
-  const auto at = [](const matrix& of, int i, int j) { return of.values[i + of.nX * j]; };
+  const auto given = [&](int k, int j) {
+    const double y = learned.values[k + learned.nX * j];
+    return y == kMissing ? std::nan("") : y;
+  };
   auto filled = copyOf(rows);
-  std::vector<double> ranges, nearest(n * rows.pX, std::nan(""));
   std::vector<int> donors;
   for (int k = 0; k < m; ++k) {
     if (!(flags && flags[k]) && (!w || w->values[k] > 0.0)) donors.push_back(k);
   }
+  std::vector<double> ranges;
   for (int j = 0; j < rows.pX; ++j) {
-    double least = kInfinity, most = -kInfinity;
-    for (const int k : donors) {
-      const double y = at(learned, k, j);
-      if (y != kMissing && y == y) least = std::min(least, y), most = std::max(most, y);
-    }
-    ranges.push_back(j < p && least < most ? most - least : 0.0);
+    ranges.push_back(j < p ? definitions::range(donors, [&](int k) { return given(k, j); }) : 0.0);
   }
-  for (int pair = 0, count = int(donors.size()); pair < n * count; ++pair) {
-    const int i = pair / count, k = donors[pair % count];
-    double sum = 0.0;
-    for (int j = 0; j < rows.pX; ++j) {
-      const double x = at(rows, i, j), y = at(learned, k, j);
-      double d = ranges[j] > 0.0 ? (x - y) / ranges[j] : x == y ? 0.0 : 1.0;
-      if (x == kMissing || y == kMissing || std::isnan(d)) d = 1.0;
-      sum += d * d;
-    }
-    for (int j = 0; j < rows.pX; ++j) {
-      const double y = at(learned, k, j);
-      if (at(rows, i, j) != kMissing || y == kMissing || y != y || sum >= nearest[i + n * j]) continue;
-      nearest[i + n * j] = sum, filled->setElement(i, j, y);
-    }
-  }
+  definitions::fillFromNearest(
+      n, rows.pX, donors, [&](int i, int j) { return rows.values[i + rows.nX * j] == kMissing; },
+      [&](int k, int j) { return !std::isnan(given(k, j)); },
+      [&](int i, int k, int j) {
+        const double x = rows.values[i + rows.nX * j];
+        return definitions::difference(x == kMissing ? std::nan("") : x, given(k, j), ranges[j]);
+      },
+      [&](int i, int k, int j) { filled->setElement(i, j, given(k, j)); });
   return filled;
 }
 
@@ -125,7 +117,8 @@ TEST(NearestNeighbours, ByHand) {
   const matrix rows(4, 3, cells, true, 0, 0), w(4, 1, weights, true, 0, 0);
   for (const bool weighted : {false, true}) {
     const auto filled = copyOf(rows);
-    filled->setElement(1, 1, weighted ? 30.0 : 10.0), filled->setElement(3, 2, weighted ? 0.0 : 1.0);
+    filled->setElement(1, 1, weighted ? 30.0 : 10.0);
+    filled->setElement(3, 2, weighted ? 0.0 : 1.0);
     Tables t(rows, 1, 1);
     EstimateRowsWithMissingNN(&t.first, 4, 1, nullptr, &t.second, 1, &t.labels, 1, weighted ? &w : nullptr);
     t.expectEqual({*filled, 1, 1});

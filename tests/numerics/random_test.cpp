@@ -70,7 +70,8 @@ TEST(RandomNumbers, DrawsAreEven) {
   expectEven(64, [&] {
     const double x = random.Random01();
     EXPECT_TRUE(x >= 0.0 && x < 1.0 && x * 0x1p53 == std::floor(x * 0x1p53)) << x;
-    return sum += x, int(x * 64.0);
+    sum += x;
+    return int(x * 64.0);
   });
   // Hoeffding: a mean this far off is less likely than 1e-6.
   EXPECT_NEAR(sum / count, 0.5, std::sqrt(std::log(2e6) / (2.0 * count)));

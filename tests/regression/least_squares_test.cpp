@@ -2,13 +2,10 @@
 
 #include <climits>
 #include <cmath>
-#include <fstream>
-#include <sstream>
 
-#include "kavoratb1c/algebra/covariance.h"
-#include "kavoratb1c/decomp/elimination.h"
-#include "numerics/thresholds.h"
-#include "support/tables.h"
+#include "definitions/elimination.h"
+#include "support/data.h"
+#include "support/residuals.h"
 
 using namespace kav;
 
@@ -24,172 +21,122 @@ struct Fit {
   Fit(int n, int p, const matrix& x, const matrix& y, const matrix& w, Options o) {
     OLSBasic2(n, p, &x, &y, &w, o.degree, o.interactions, o.throughOrigin, o.tolerance, b, se, fitted);
   }
-  Fit(const Fit&) = delete;
-  ~Fit() { delete b, delete se, delete fitted; }
 
-  matrix *b = nullptr, *se = nullptr, *fitted = nullptr;
+  Made<matrix> b, se, fitted;
 };
 
-/// The same by its definition, with sweeps on the full table.
-struct Definition {
-  Definition(int n, int p, const matrix& x, const matrix& y, const matrix& w, Options o) {
-    q = p * o.degree + (o.degree > 1 && o.interactions == -1 ? p * (p - 1) / 2 : 0);
-    matrix design(n, q + 1, 0.0), means(q + 1, 1, 0.0), deviations(q + 1, 1, 0.0), variances(q + 1, 1, 0.0),
-        correlations(q + 1, q + 1, 0.0);
-    byDefinition(design, n, q + 1, [&](int i, int j) {
-      if (j > q) return y.vbget(i, 1);
-      if (j <= p * o.degree) return (j <= p ? 1.0 : design.vbget(i, j - p)) * x.vbget(i, (j - 1) % p + 1);
-      int left = 1, right = j - p * o.degree;
-      while (right > p - left) right -= p - left++;
-      return x.vbget(i, left) * x.vbget(i, left + right);
-    });
-    matrix *table = &design, *m = &means, *s = &deviations, *v = &variances, *r = &correlations;
-    double total = 0.0;
-    for (int i = 1; i <= n; ++i) total += w.vbget(i, 1);
-    M_CovCorrAndMeanStDevVar(table, n, q + 1, r, m, s, v, -1, nullptr, &w, -1, -1, 0, 0);
-    for (int k = 1; k <= q; ++k) {
-      const double d = r->vbget(k, k);
-      double least = d;
-      for (int j = 1; j <= q && d > 0.0 && d >= o.tolerance; ++j) {
-        const double own = r->vbget(j, j), shared = r->vbget(j, k);
-        if (own < 0.0) least = std::min(least, 1.0 / (std::fabs(own) + shared * shared / d));
-      }
-      if (least <= o.tolerance) {
-        s->vbset(k, 1, 0.0);
-        continue;
-      }
-      const auto before = copyOf(*r);
-      byDefinition(*r, q + 1, q + 1, [&](int i, int j) {
-        if (i == k || j == k) return i == j ? -1.0 / d : before->vbget(i, j) / std::fabs(d);
-        const double rest =
-            before->vbget(i, j) - before->vbget(std::max(i, j), k) * (before->vbget(std::min(i, j), k) / d);
-        return std::fabs(rest) < kZero ? 0.0 : rest;
-      });
-    }
-    freedom = n - q - 1.0;
-    const double ofY = s->vbget(q + 1, 1), rest = r->vbget(q + 1, q + 1);
-    double constant = m->vbget(q + 1, 1), variance = ofY * ofY * rest * (total - 1.0) / (total * freedom);
-    for (int k = 1; k <= q; ++k) {
-      const double scale = s->vbget(k, 1), mean = m->vbget(k, 1), slope = ofY / scale * r->vbget(q + 1, k);
-      const bool kept = std::fabs(scale) > kZero;
-      b.push_back(kept ? slope : 0.0);
-      se.push_back(kept ? ofY / scale * std::sqrt(std::fabs(rest * r->vbget(k, k)) / freedom) : 0.0);
-      if (!kept) continue;
-      constant -= slope * mean;
-      variance += mean * se.back() * (mean * se.back());
-      for (int j = 1; j < k; ++j) {
-        const double both = scale * s->vbget(j, 1);
-        if (std::fabs(s->vbget(j, 1)) <= kZero || std::fabs(both) <= kEpsilon) continue;
-        variance += 2.0 * mean * m->vbget(j, 1) * (-(ofY * ofY / both) * rest * r->vbget(k, j) / freedom);
-      }
-    }
-    b.push_back(constant), se.push_back(std::sqrt(variance));
-    for (int k = 0; k <= q && freedom <= 0.0; ++k) {
-      if (k == q || std::fabs(s->vbget(k + 1, 1)) > kZero) se[static_cast<std::size_t>(k)] = kMissing;
-    }
-    for (int i = 1; i <= n; ++i) {
-      double sum = 0.0;
-      for (int k = 1; k <= q; ++k) sum += b[static_cast<std::size_t>(k - 1)] * design.vbget(i, k);
-      fitted.push_back(sum + b.back());
-    }
-    // Without a deviation nothing is known.
-    if (total > 1.0) return;
-    for (std::vector<double>* all : {&b, &se, &fitted}) all->assign(all->size(), kMissing);
+using Doubles = std::vector<double>;
+
+void expectNear(const matrix& actual, const matrix& expected) {
+  ASSERT_EQ(actual.nX, expected.nX);
+  for (int k = 0; k < actual.nX; ++k) {
+    const double x = expected.values[k];
+    EXPECT_NEAR(actual.values[k], x, x == 0.0 ? 0.0 : 1e-10 * (1.0 + std::fabs(x))) << k;
   }
-
-  int q;
-  double freedom;
-  std::vector<double> b, se, fitted;
-};
-
-/// The fields of a data file's lines that begin with a name, or of all.
-std::vector<std::vector<std::string>> rowsOf(const std::string& file, const std::string& name = "") {
-  std::vector<std::vector<std::string>> rows;
-  std::ifstream in(KAV_TEST_DATA "/" + file);
-  for (std::string line, field; std::getline(in, line);) {
-    if (line.compare(0, name.size(), name) != 0) continue;
-    rows.emplace_back();
-    for (std::istringstream fields(line); std::getline(fields, field, ',');) rows.back().push_back(field);
-  }
-  return rows;
-}
-
-/// Row i of column j of a file below its headings, both 1-based.
-auto cellsIn(const std::string& file) {
-  return [rows = rowsOf(file)](int i, int j) {
-    return std::stod(rows.at(static_cast<std::size_t>(i)).at(static_cast<std::size_t>(j - 1)));
-  };
 }
 
 }  // namespace
 
-/// Normal equations about 0; the degrees of freedom count an intercept all the same.
-TEST(LeastSquares, ThroughTheOriginSolvesTheNormalEquations) {
+/// Also about 0; the degrees of freedom count an intercept all the same, and rows without a weight.
+TEST(LeastSquares, SolvesTheNormalEquations) {
   Random random(922);
-  for (int round = 0; round < 60; ++round) {
-    const int n = 12 + random.below(30), p = 1 + random.below(4);
-    matrix x(n, p), y(n, 1), w(n, 1), normal(p, p, 0.0), right(p, 1, 0.0);
+  for (int round = 0; round < 200; ++round) {
+    const int n = round % 20 == 0 ? 1300 : 25 + random.below(40), p = 1 + random.below(3);
+    const auto interactions = static_cast<short>(random.below(3) - 1), origin = kav::asFlag(round % 2 == 0);
+    const Options o = {1 + random.below(3), interactions, origin, 1e-9};
+    SCOPED_TRACE(testing::Message() << n << " x " << p << ", degree " << o.degree << ", round " << round);
+    // Containers of other sizes, and cells that are flagged but count.
+    matrix x(n + random.below(3) - 1, p + random.below(2), 0.0), y(n, 1, 0.0), w(n, 1, 0.0);
+    for (int k = 0; k < x.nX * x.pX; ++k) x.values[k] = random.uniform(-1.0, 1.5);
+    x.setMissing(random.below(n), true);
     for (int i = 0; i < n; ++i) {
-      for (int j = 0; j < p; ++j) x.setElement(i, j, random.uniform(-3.0, 5.0));
-      y.setElement(i, 0, 2.385 * x.getElement(i, 0) + random.uniform(-1.0, 1.0));
-      w.setElement(i, 0, random.uniform(0.5, 3.0));
-      for (int a = 0; a < p; ++a) {
-        const double weighted = w.values[i] * x.getElement(i, a);
-        right.values[a] += weighted * y.values[i];
-        for (int b = 0; b < p; ++b) normal.values[a + p * b] += weighted * x.getElement(i, b);
-      }
+      y.setElement(i, 2.385 * x.getElement(i, 0) + random.uniform(0.0, 1.0));
+      w.setElement(i, random.below(5) == 0 ? 0.0 : random.uniform(0.5, 3.0));
     }
-    ASSERT_EQ(M_Gauss(&normal, p, 1, &right), 0);
+    // Powers, products of every two columns, 1 for the intercept.
+    std::vector<double> design;
+    const auto addColumn = [&](auto cell) {
+      for (int i = 1; i <= n; ++i) design.push_back(cell(i));
+    };
+    for (int j = 0; j < p * o.degree; ++j) {
+      addColumn([&](int i) { return std::pow(x.vbget(i, j % p + 1), j / p + 1); });
+    }
+    for (int j = 1; j <= p && o.degree > 1 && interactions == kTrue; ++j) {
+      for (int k = j + 1; k <= p; ++k) addColumn([&](int i) { return x.vbget(i, j) * x.vbget(i, k); });
+    }
+    const int q = static_cast<int>(design.size()) / n, terms = q + (origin == 0);
+    if (origin == 0) addColumn([](int) { return 1.0; });
+    const definitions::Cells d{design.data(), n};
+    matrix inverse(terms, terms, 0.0), b(q + 1, 1, 0.0), se(q + 1, 1, 0.0), fitted(n, 1, 0.0);
+    for (int k = 0; k < n * terms; ++k) {
+      const double weighted = w.values[k % n] * design[std::size_t(k)];
+      b.values[k / n] += weighted * y.values[k % n];
+      for (int j = 0; j < terms; ++j) inverse.values[k / n + terms * j] += weighted * d(k % n, j);
+    }
+    definitions::eliminate(definitions::Cells{inverse.values, terms}, terms,
+                           definitions::Cells{b.values, terms}, 1);
     double rest = 0.0;
     for (int i = 0; i < n; ++i) {
-      double error = y.values[i];
-      for (int j = 0; j < p; ++j) error -= right.values[j] * x.getElement(i, j);
-      rest += w.values[i] * error * error;
+      for (int k = 0; k < terms; ++k) fitted.values[i] += b.values[k] * d(i, k);
+      rest += w.values[i] * std::pow(y.values[i] - fitted.values[i], 2);
     }
-    matrix *b = nullptr, *se = nullptr, *fitted = nullptr;
-    OLSBasic2(n, p, &x, &y, &w, 1, kFalse, kTrue, 1e-9, b, se, fitted);
-    for (int k = 0; k < p; ++k) {
-      EXPECT_NEAR(b->values[k], right.values[k], 1e-10 * (1.0 + std::fabs(right.values[k])));
-      const double expected = std::sqrt(rest * normal.values[k + p * k] / (n - p - 1.0));
-      EXPECT_NEAR(se->values[k], expected, 1e-9 * expected);
+    for (int k = 0; k < terms; ++k) {
+      se.values[k] = std::sqrt(rest * inverse.values[k + terms * k] / (n - q - 1.0));
     }
-    EXPECT_EQ(b->values[p], 0.0);
-    EXPECT_EQ(se->values[p], 0.0);
-    for (const matrix* m : {b, se, fitted}) delete m;
+    const Fit fit(n, p, x, y, w, o);
+    expectNear(*fit.b, b);
+    expectNear(*fit.se, se);
+    expectNear(*fit.fitted, fitted);
   }
 }
 
-TEST(LeastSquares, EqualsItsDefinition) {
+TEST(LeastSquares, BothWorkersRefillTheSameResults) {
   Random random(921);
-  for (int round = 0; round < 600; ++round) {
-    const int n = 1 + random.below(round % 10 == 0 ? 1300 : 40), p = 1 + random.below(5), off = round % 3 - 1;
-    const auto interactions = static_cast<short>(random.below(3) - 1);
-    const Options o = {1 + random.below(3), interactions, 0, std::pow(10.0, -random.below(14))};
-    SCOPED_TRACE(testing::Message() << n << " x " << p << ", degree " << o.degree << ", round " << round);
-    // Containers of other sizes, the same column twice, a constant one, missing cells, integers.
-    matrix x(n + off, p + off, 0.0), y(n, 1, 0.0);
-    fillColumns(x, random, random.below(2));
-    for (int i = 0; i < n; ++i) {
-      if (round % 5 == 0) x.setElement(i, p - 1, x.getElement(i, 0));
-      if (round % 2 == 0) x.setElement(i, 0, random.below(4));
-      y.setElement(i, x.getElement(i, 0) + random.uniform(-1.0, 1.0));
-    }
-    auto w = randomWeights(random, n);
-    if (w == nullptr) w = std::make_unique<matrix>(n, 1, 1.0);
-    Definition expected(n, p, x, y, *w, o);
-    const Fit fit(n, p, x, y, *w, o);
-    const int q = expected.q;
-    EXPECT_TRUE(holds(*fit.b, q + 1, 1, expected.b));
-    EXPECT_TRUE(holds(*fit.fitted, n, 1, expected.fitted));
-    EXPECT_TRUE(holds(*fit.se, q + 1, 1, expected.se));
-    // In containers of those shapes a flagged cell keeps 0.0; another one is replaced.
-    matrix b(q + 1, 1, 4.75), f(n + 1, 1, 4.75), *coefficients = &b, *fitted = &f;
-    b.setMissing(q / 2, true), expected.b[std::size_t(q / 2)] = 0.0;
-    OLSBasic(n, p, &x, &y, w.get(), o.degree, interactions, 0, o.tolerance, coefficients, fitted);
-    ASSERT_TRUE(coefficients == &b && fitted != &f);
-    const std::unique_ptr<matrix> made(fitted);
-    EXPECT_TRUE(holds(b, q + 1, 1, expected.b) && holds(*fitted, n, 1, expected.fitted));
+  const auto x = randomTable(random, 20, 2, 1 << 30), y = randomTable(random, 20, 1, 1 << 30);
+  const matrix ones(20, 1, 1.0);
+  const Fit fit(20, 2, *x, *y, ones, {});
+  const auto expectFit = [](const matrix& actual) {
+    return [&](int i, int j) { return actual.vbget(i, j); };
+  };
+  expectMakes(3, 1, expectFit(*fit.b), [&](matrix*& b) {
+    matrix f(20, 1, 0.0), *line = &f;
+    OLSBasic(20, 2, x.get(), y.get(), &ones, 1, 0, 0, 1e-10, b, line);
+  });
+  expectMakes(20, 1, expectFit(*fit.fitted), [&](matrix*& line) {
+    matrix b(3, 1, 0.0), *coefficients = &b;
+    OLSBasic(20, 2, x.get(), y.get(), &ones, 1, 0, 0, 1e-10, coefficients, line);
+  });
+  expectMakes(3, 1, expectFit(*fit.se), [&](matrix*& se) {
+    matrix b(3, 1, 0.0), f(20, 1, 0.0), *coefficients = &b, *line = &f;
+    OLSBasic2(20, 2, x.get(), y.get(), &ones, 1, 0, 0, 1e-10, coefficients, se, line);
+  });
+}
+
+// The line 1 + 2 x through two points, beside a constant: no degree of freedom is left.
+TEST(LeastSquares, ErrorsNeedDegreesOfFreedomAndAllResultsADeviation) {
+  const auto x = square::cells(2, 2, {1, 2, 7, 7}), y = square::cells(2, 1, {3, 5});
+  for (const double weight : {1.0, 0.5}) {
+    const Fit fit(2, 2, *x, *y, matrix(2, 1, weight), {});
+    const bool known = weight > 0.5;
+    const double none = kMissing;
+    EXPECT_TRUE(holds(*fit.b, 3, 1, known ? Doubles{2, 0, 1} : Doubles{none, none, none}));
+    EXPECT_TRUE(holds(*fit.se, 3, 1, known ? Doubles{none, 0, none} : Doubles{none, none, none}));
+    EXPECT_TRUE(holds(*fit.fitted, 2, 1, known ? Doubles{3, 5} : Doubles{none, none}));
   }
+}
+
+// The second column is the first one and half of another that is orthogonal to it: a fifth of its variance is
+// left. So is what explains the response, 4 + 2 x + 3 z, but for residuals of 0.5.
+TEST(LeastSquares, VariablesThatOthersExplainAreLeftOut) {
+  const auto x = square::cells(4, 2, {-1, -1, 1, 1, -1.5, -0.5, 0.5, 1.5}),
+             y = square::cells(4, 1, {-0.5, 4.5, 2.5, 9.5});
+  const double residual = std::sqrt(37.0 / 4.0);
+  const Fit whole(4, 2, *x, *y, matrix(4, 1, 1.0), {1, 0, 0, 0.19}),
+      first(4, 2, *x, *y, matrix(4, 1, 1.0), {1, 0, 0, 0.21});
+  expectNear(*whole.b, *square::cells(3, 1, {-4, 6, 4}));
+  expectNear(*whole.se, *square::cells(3, 1, {std::sqrt(1.25), 1, 0.5}));
+  expectNear(*first.b, *square::cells(3, 1, {2, 0, 4}));
+  expectNear(*first.se, *square::cells(3, 1, {residual, 0, residual}));
 }
 
 // Digits that agree with the certified values. Degrees of freedom count an intercept even where there is
@@ -206,14 +153,15 @@ TEST(LeastSquares, CertifiedSets) {
               {"NoInt1", 11, 1, {1, 0, -1}, 14.2, 13.2},
               {"Wampler1", 21, 1, {5}, 6.5, 0.0}};
   for (const auto& [name, n, p, options, digits, errorDigits] : sets) {
-    const auto cell = cellsIn(std::string("strd/") + name + ".csv");
+    const data::Table cell(std::string("strd/") + name + ".csv");
     matrix x(n, p, 0.0), y(n, 1, 0.0);
-    byDefinition(y, n, 1, cell), byDefinition(x, n, p, [&](int i, int j) { return cell(i, j + 1); });
+    byDefinition(y, n, 1, cell);
+    byDefinition(x, n, p, [&](int i, int j) { return cell(i, j + 1); });
     const Fit fit(n, p, x, y, matrix(n, 1, 1.0), options);
     const double freedom = options.throughOrigin == 0 ? 1.0 : std::sqrt((n - 2.0) / (n - 1.0));
     const double constant = std::fabs(fit.b->getElement(p)) + fit.se->getElement(p);
     EXPECT_EQ(constant == 0.0, options.throughOrigin != 0) << name;
-    const auto certified = rowsOf("strd/regression_certified.csv", name);
+    const auto certified = data::rowsOf("strd/regression_certified.csv", name);
     EXPECT_EQ(int(certified.size()), fit.b->nX - (options.throughOrigin != 0));
     for (const auto& row : certified) {
       const int k = (std::stoi(row[1].substr(1)) + fit.b->nX - 1) % fit.b->nX;
@@ -227,8 +175,8 @@ TEST(LeastSquares, CertifiedSets) {
 
 // Expected values were computed elsewhere, their file tells how; there intercepts come first.
 TEST(LeastSquares, ReferenceValues) {
-  const auto expectNear = [](const matrix& actual, const char* name, int shift, double factor) {
-    const auto rows = rowsOf("reference/regression_computed.csv", name);
+  const auto expect = [](const matrix& actual, const char* name, int shift, double factor) {
+    const auto rows = data::rowsOf("reference/regression_computed.csv", name);
     ASSERT_EQ(rows.size(), 1u);
     const int count = static_cast<int>(rows[0].size()) - 1;
     for (int k = 0; k < count; ++k) {
@@ -239,25 +187,28 @@ TEST(LeastSquares, ReferenceValues) {
   };
   // Columns left out, the first one again, a constant and a missing one, and as many rows without a weight:
   // slopes, errors and degrees of freedom stay.
-  const auto loss = cellsIn("reference/stackloss.csv"), car = cellsIn("reference/mtcars.csv");
+  const data::Table loss("reference/stackloss.csv"), car("reference/mtcars.csv");
   matrix x(24, 6, 2.375), y(24, 1, 1e3), w(24, 1, 0.0), cars(32, 2, 0.0), miles(32, 1, 0.0),
       counts(32, 1, 0.0);
   byDefinition(x, 21, 4, [&](int i, int j) { return loss(i, (j - 1) % 3 + 1); });
   byDefinition(y, 21, 1, [&](int i, int) { return loss(i, 4); });
   byDefinition(w, 21, 1, [](int, int) { return 1.0; });
-  for (int i = 0; i < 24; ++i) x.setElement(i, 5, 0.0), x.setMissing(i, 5, true);
+  for (int i = 0; i < 24; ++i) {
+    x.setElement(i, 5, 0.0);
+    x.setMissing(i, 5, true);
+  }
   const Fit fit(24, 6, x, y, w, {});
-  expectNear(*fit.b, "stackloss coefficients", 1, 1.0);
-  expectNear(*fit.se, "stackloss errors", 1, 1.0);
-  expectNear(*fit.fitted, "stackloss fitted", 0, 1.0);
+  expect(*fit.b, "stackloss coefficients", 1, 1.0);
+  expect(*fit.se, "stackloss errors", 1, 1.0);
+  expect(*fit.fitted, "stackloss fitted", 0, 1.0);
   for (int k = 3; k < 6; ++k) EXPECT_TRUE(fit.b->getElement(k) == 0.0 && fit.se->getElement(k) == 0.0);
   // Weights are frequencies: of 90 repeated rows, where degrees of freedom count 32.
   byDefinition(cars, 32, 2, [&](int i, int j) { return car(i, j == 1 ? 7 : 5); });
   byDefinition(miles, 32, 1, [&](int i, int) { return car(i, 2); });
   byDefinition(counts, 32, 1, [&](int i, int) { return car(i, 12); });
   const Fit weighted(32, 2, cars, miles, counts, {});
-  expectNear(*weighted.b, "repeated coefficients", 1, 1.0);
-  expectNear(*weighted.se, "repeated errors", 1, std::sqrt((32.0 - 3.0) / (90.0 - 3.0)));
+  expect(*weighted.b, "repeated coefficients", 1, 1.0);
+  expect(*weighted.se, "repeated errors", 1, std::sqrt((32.0 - 3.0) / (90.0 - 3.0)));
 }
 
 TEST(LeastSquares, PowersComeBeforeProducts) {

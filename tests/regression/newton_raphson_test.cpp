@@ -2,9 +2,8 @@
 
 #include <climits>
 #include <cmath>
-#include <fstream>
-#include <sstream>
 
+#include "support/data.h"
 #include "support/tables.h"
 
 namespace {
@@ -33,16 +32,6 @@ struct Step {
   int p;
   matrix parameters, gradient, hessian, excluded{p, 1, 0.0}, errors{p, 1, 4.75}, inverse{p, p, 4.75};
 };
-
-std::vector<std::vector<std::string>> rowsOf(const char* file) {
-  std::vector<std::vector<std::string>> rows;
-  std::ifstream in(file);
-  for (std::string line, field; std::getline(in, line);) {
-    rows.emplace_back();
-    for (std::istringstream fields(line); std::getline(fields, field, ',');) rows.back().push_back(field);
-  }
-  return rows;
-}
 
 }  // namespace
 
@@ -85,21 +74,21 @@ TEST(NewtonRaphson, ExcludedParametersAndSingularHessians) {
 
 // Automatic gear by weight and, or not, power; expected values were computed elsewhere, their file tells how.
 TEST(NewtonRaphson, DrivesALogisticRegressionToConvergence) {
-  const auto cars = rowsOf(KAV_TEST_DATA "/reference/mtcars.csv");
+  const data::Table car("reference/mtcars.csv");
   int compared = 0;
-  for (const auto& expected : rowsOf(KAV_TEST_DATA "/reference/regression_computed.csv")) {
-    if (expected[0].rfind("logistic", 0) != 0) continue;
+  for (const auto& expected : data::rowsOf("reference/regression_computed.csv", "logistic")) {
     Step step(Doubles(3), Doubles(3), Doubles(9));
     step.excluded.setElement(2, expected.size() == 3);
     int status = 0;
     for (int round = 0; round < 60 && status == 0; ++round) {
       matrix *g = &step.gradient, *h = &step.hessian;
-      matrix::matCheck(g, 3, 1, 0.0), matrix::matCheck(h, 3, 3, 0.0);
-      for (std::size_t i = 1; i < cars.size(); ++i) {
-        const double x[] = {1.0, std::stod(cars[i][6]), std::stod(cars[i][4])};
+      matrix::matCheck(g, 3, 1, 0.0);
+      matrix::matCheck(h, 3, 3, 0.0);
+      for (int i = 1; i <= car.n; ++i) {
+        const double x[] = {1.0, car(i, 7), car(i, 5)};
         const double* b = step.parameters.values;
         const double mean = 1.0 / (1.0 + std::exp(-x[0] * b[0] - x[1] * b[1] - x[2] * b[2]));
-        for (int j = 0; j < 3; ++j) g->values[j] += x[j] * (mean - std::stod(cars[i][9]));
+        for (int j = 0; j < 3; ++j) g->values[j] += x[j] * (mean - car(i, 10));
         for (int k = 0; k < 9; ++k) h->values[k] += x[k % 3] * x[k / 3] * mean * (1.0 - mean);
       }
       status = step.take(1e-11, -1, 4.0);

@@ -89,7 +89,8 @@ TEST(Samples, ComeAsOftenAsTheirSchemesSay) {
   for (int k = 0; k < 9 * 14; ++k) {
     const int n = k % 9 - 1, wanted = k / 9 - 2, right = std::max(0, std::min(n, wanted));
     Cells x = draw(kOnes, n, wanted, &k), sorted(std::size_t(std::max(n, 0)), 0.0);
-    std::fill_n(sorted.rbegin(), right, 1.0), std::sort(x.begin(), x.end());
+    std::fill_n(sorted.rbegin(), right, 1.0);
+    std::sort(x.begin(), x.end());
     EXPECT_EQ(x, sorted) << n << ", " << wanted;
   }
 }

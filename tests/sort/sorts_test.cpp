@@ -221,7 +221,10 @@ TEST(Sorts, VectorsComeInOrderAndDescendingReversed) {
     // A container knows its cells itself, here in two columns; flagged ones keep what they hold.
     matrix m(n / 2, 2, before.data(), true, 0, 0), *argument = &m;
     Cells kept = sortedByDefinition(cellsOf(m), from, to, option, precedes);
-    for (std::size_t k = 0; k < kept.size(); k += 19) m.missing[k] = true, kept[k] = before[k];
+    for (std::size_t k = 0; k < kept.size(); k += 19) {
+      m.missing[k] = true;
+      kept[k] = before[k];
+    }
     EXPECT_EQ(SortQVector(argument, -3, from, to, option), 0);
     EXPECT_TRUE(bits::equal(cellsOf(m), kept));
     std::vector<int> integers, places;
@@ -242,8 +245,10 @@ TEST(Sorts, VectorsComeInOrderAndDescendingReversed) {
 
 TEST(Sorts, OrdersAreTruncatedAndRowsOutsideAreMinusOneOrEmpty) {
   const double special[] = {0.5, 0.0, 301.0, std::nan(""), -3.0, 1e300};
-  matrix source(300, 2), order(300, 1), inverse(300, 1), *there = nullptr, *back = nullptr;
-  Smatrix labels(300, 2), *labelsThere = nullptr;
+  matrix source(300, 2), order(300, 1), inverse(300, 1);
+  Smatrix labels(300, 2);
+  Made<matrix> there, back;
+  Made<Smatrix> labelsThere;
   for (int k = 0; k < 600; ++k) {
     source.values[k] = k * 2.385;
     labels.cells[k] = static_cast<char16_t>(k + 1);
@@ -261,5 +266,4 @@ TEST(Sorts, OrdersAreTruncatedAndRowsOutsideAreMinusOneOrEmpty) {
     EXPECT_EQ(there->values[k], row == 0 ? -1.0 : source.vbget(row, c)) << k;
     EXPECT_EQ(labelsThere->cells[k], row == 0 ? u"" : labels.vbget(row, c)) << k;
   }
-  delete there, delete back, delete labelsThere;
 }

@@ -1,6 +1,6 @@
 #include "kavoratb1c/stats/frequencies.h"
 
-#include "support/bits.h"
+#include "core/contents.h"
 
 using namespace kav;
 
@@ -51,12 +51,11 @@ TEST(Frequencies, LabelsAreComparedCodeByCode) {
   const matrix w(8, 1, weights, true, 0, 0);
   EXPECT_EQ(V_FreqStr(&labels, 8, &w, u"b"), 18.375);
   EXPECT_EQ(V_FreqStr(&labels, 9, &w, u""), 8.0 - 1.0);
-  Smatrix* distinct = nullptr;
+  Made<Smatrix> distinct;
   V_ExtractDistinct(&labels, 8, distinct, nullptr);
   EXPECT_EQ(stringsOf(*distinct),
             (Strings{u"", u"B", u"b", u"\xD834", u"\U0001D11E", u"\U0001D122", u"\uFB01"}));
   EXPECT_EQ(V_NbDistinct(&labels, 8), 7);
-  delete distinct;
 }
 
 TEST(Frequencies, DoublesGetTheNextFreeNumber) {

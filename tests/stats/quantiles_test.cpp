@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "support/bits.h"
+#include "support/data.h"
 #include "support/random.h"
 
 using namespace kav;
@@ -96,10 +97,8 @@ TEST(Quantiles, EqualTheirDefinitions) {
 
 // Horsepower in data set mtcars, weighted by carburettors.
 TEST(Quantiles, EqualReferenceValues) {
-  const matrix x = vectorOf({110, 110, 93, 110, 175, 105, 245, 62,  95,  123, 123, 180, 180, 180, 205, 215,
-                             230, 66,  52, 65,  97,  150, 150, 245, 175, 66,  91,  113, 264, 175, 335, 109});
-  const matrix w = vectorOf(
-      {4, 4, 1, 1, 2, 1, 4, 2, 2, 4, 4, 3, 3, 3, 4, 4, 4, 1, 2, 1, 1, 2, 2, 4, 2, 1, 2, 2, 4, 6, 8, 2});
+  const data::Table cars("reference/mtcars.csv");
+  const matrix x(32, 1, cars.column(5), true, 0, 0), w(32, 1, cars.column(12), true, 0, 0);
   const double references[][3] = {
       {0.05, 63.65, 65}, {0.1, 66, 92}, {0.3, 106.2, 118}, {0.5, 123, 175}, {0.9, 243.5, 264}};
   for (const auto& [p, plain, weighted] : references) {

@@ -13,9 +13,8 @@ using namespace kav;
 namespace {
 
 struct Results {
-  matrix *ranks = nullptr, *sizes = nullptr;
+  Made<matrix> ranks, sizes;
   int count = -7;
-  ~Results() { delete ranks, delete sizes; }
 };
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "kavoratb1c/stats/vector_moments.h"
 
 #include <climits>
-#include <fstream>
 #include <limits>
 #include <numeric>
 #include <string>
@@ -9,6 +8,7 @@
 
 #include "numerics/scalar.h"
 #include "support/bits.h"
+#include "support/data.h"
 #include "support/random.h"
 
 using namespace kav;
@@ -89,12 +89,12 @@ void expectNear(const std::vector<double>& actual, const std::vector<double>& ex
   }
 }
 
-// The set mtcars: fuel consumption and number of carburettors of 32 cars.
-const double kMpg[] = {21,   21,   22.8, 21.4, 18.7, 18.1, 14.3, 24.4, 22.8, 19.2, 17.8,
-                       16.4, 17.3, 15.2, 10.4, 10.4, 14.7, 32.4, 30.4, 33.9, 21.5, 15.5,
-                       15.2, 13.3, 19.2, 27.3, 26,   30.4, 15.8, 19.7, 15,   21.4};
-const double kCarb[] = {4, 4, 1, 1, 2, 1, 4, 2, 2, 4, 4, 3, 3, 3, 4, 4,
-                        4, 1, 2, 1, 1, 2, 2, 4, 2, 1, 2, 2, 4, 6, 8, 2};
+/// Fuel consumption and number of carburettors of 32 cars.
+struct Cars {
+  const data::Table table{"reference/mtcars.csv"};
+  const matrix mpg{32, 1, table.column(2), false, 0, 0}, carb{32, 1, table.column(12), false, 0, 0},
+      ones{32, 1, 1.0};
+};
 
 }  // namespace
 
@@ -144,12 +144,10 @@ TEST(VectorMoments, CertifiedSets) {
               {"NumAcc3", 1000000.200000000011583383, 0.1000000000349245965480974, 3.16e-12},
               {"PiDigits", 4.5348, 2.867339060288708072461076, 1.26e-15}};
   for (const auto& set : sets) {
-    std::ifstream in(std::string(KAV_TEST_DATA "/strd/") + set.name + ".csv");
-    std::vector<double> cells, actual(2);
-    in.ignore(9, '\n');
-    for (double cell; in >> cell;) cells.push_back(cell);
-    const int n = static_cast<int>(cells.size());
-    const matrix x(n, 1, cells.data(), false, 0, 0), ones(n, 1, 1.0);
+    const data::Table table(std::string("strd/") + set.name + ".csv");
+    const int n = table.n;
+    const matrix x(n, 1, table.column(1), false, 0, 0), ones(n, 1, 1.0);
+    std::vector<double> actual(2);
     V_MeanStdev(&x, n, &actual[0], &actual[1], kNone, &ones, -1, 0);
     EXPECT_NEAR(actual[0], set.mean, 1e-14 * std::fabs(set.mean)) << set.name;
     EXPECT_NEAR(actual[1], set.stdev, set.error * set.stdev) << set.name;
@@ -158,7 +156,8 @@ TEST(VectorMoments, CertifiedSets) {
 
 // Expected values were computed elsewhere from the repeated rows, or from the weighted sums as they stand.
 TEST(VectorMoments, WeightedReferenceValues) {
-  const matrix x(32, 1, kMpg, false, 0, 0), w(32, 1, kCarb, false, 0, 0), ones(32, 1, 1.0);
+  const Cars cars;
+  const matrix &x = cars.mpg, &w = cars.carb, &ones = cars.ones;
   double mean, var;
   V_MeanVar(&x, 32, &mean, &var, kNone, &w, -1, -1);
   expectNear(
@@ -167,57 +166,26 @@ TEST(VectorMoments, WeightedReferenceValues) {
       {18.243333333333336, 26.768999999999995, 26.471566666666671, 27.325488172043009, -0.55092507390245882});
 }
 
-TEST(VectorMoments, Laws) {
-  Random random(8);
-  std::vector<double> cells, counts, repeated, used, usedCounts, scaled;
-  for (int i = 0; i < 90; ++i) {
-    const int count = random.below(5);
-    cells.push_back(random.uniform(-3.0, 11.0));
-    counts.push_back(count);
-    scaled.push_back(cells.back() * 0x1p-9);
-    repeated.insert(repeated.end(), static_cast<std::size_t>(count), cells.back());
-    if (count > 0) used.push_back(cells.back()), usedCounts.push_back(count);
-  }
-  const auto all = [&](const std::vector<double>& x, const std::vector<double>& w, short biasIsOne) {
-    const int n = static_cast<int>(x.size());
-    const matrix values(n, 1, x.data(), false, 0, 0), weights(n, 1, w.data(), false, 0, 0);
-    std::vector<double> results = shapesOf(values, n, kNone, &weights, -1, biasIsOne);
-    results.resize(8);
-    V_MeanVar(&values, n, &results[6], &results[7], kNone, &weights, -1, biasIsOne);
-    return results;
-  };
-  // Counts are repeated rows, zero is an absent row, other weights have any scale, powers of two are exact.
-  expectNear(all(cells, counts, -1), all(repeated, std::vector<double>(repeated.size(), 1.0), -1));
-  std::vector<double> expected = all(used, usedCounts, 0);
-  EXPECT_TRUE(bits::equal(all(cells, counts, 0), expected));
-  for (double& count : counts) count *= 0x1p5;
-  EXPECT_TRUE(bits::equal(all(cells, counts, 0), expected));
-  for (std::size_t k : {0u, 1u, 1u, 6u, 7u, 7u}) expected[k] *= 0x1p-9;
-  EXPECT_TRUE(bits::equal(all(scaled, counts, 0), expected));
-}
-
-TEST(VectorMoments, ConstantsVaryByExactlyNothing) {
+// Neither scale nor denominator matters to a correlation.
+TEST(VectorMoments, ConstantsVaryByExactlyNothingAndMultiplesTogether) {
   Random random(12);
-  const matrix x(40, 1, 2.385);
-  for (int round = 0; round < 50; ++round) {
-    std::vector<double> weights;
-    for (int i = 0; i < 40; ++i) weights.push_back(random.uniform(0.01, 5.0));
-    const matrix w(40, 1, weights.data(), false, 0, 0);
+  for (const double scale : {-1e120, -1e-5, -1e-120}) {
+    const matrix x(40, 1, 2.385);
+    matrix w(40, 1, 0.0), y(40, 1, 0.0);
+    for (int i = 0; i < 40; ++i) {
+      w.values[i] = random.uniform(0.01, 5.0);
+      y.values[i] = scale * w.values[i];
+    }
     EXPECT_TRUE(bits::equal(V_Var(&x, 40, kNone, &w, -1, 0), 0.0));
     EXPECT_EQ(shapesOf(x, 40, kNone, &w, -1, 0)[4], kMissing);
     EXPECT_TRUE(bits::equal(CorrelPearson(&w, &x, 40, kNone, &w, 0, 0), 0.0));
     EXPECT_EQ(CorrelPearson(&w, &w, 40, kNone, &w, 0, 0), 1.0);
-    // Neither scale nor denominator matters, even where the product of two variances is no double.
-    for (const double scale : {-1e120, -1e-5, -1e-120}) {
-      matrix y(40, 1, 0.0);
-      for (int i = 0; i < 40; ++i) y.values[i] = scale * w.values[i];
-      EXPECT_NEAR(CorrelPearson(&y, &w, 40, kNone, &w, -1, -1), -1.0, 1e-14);
-    }
+    EXPECT_NEAR(CorrelPearson(&y, &w, 40, kNone, &w, -1, -1), -1.0, 1e-14);
   }
 }
 
 TEST(VectorMoments, FlagsAndWeightsAreNeededForCells) {
-  const matrix w(2, 1, 1.0), x(2, 1, kMpg, false, 0, 0);
+  const matrix w(2, 1, 1.0), x(2, 1, 2.385);
   for (const short* flags : {kNone, static_cast<const short*>(nullptr)}) {
     const matrix* const weights = flags == nullptr ? &w : nullptr;
     std::vector<double> all = shapesOf(x, 2, flags, weights, -1, 0);
@@ -234,14 +202,14 @@ TEST(VectorMoments, FlagsAndWeightsAreNeededForCells) {
 
 // Deviations from the mean in two passes, and the usual formulas of the sample's shape.
 TEST(VectorMoments, ShapesAgreeWithTwoPasses) {
-  const double n = 32.0, mean = std::accumulate(kMpg, kMpg + 32, 0.0) / n;
+  const Cars cars;
+  const double n = 32.0, mean = std::accumulate(cars.mpg.values, cars.mpg.values + 32, 0.0) / n;
   double m[5] = {};
-  for (const double cell : kMpg) {
-    for (int order : {2, 3, 4}) m[order] += std::pow(cell - mean, order) / n;
+  for (int i = 0; i < 32; ++i) {
+    for (int order : {2, 3, 4}) m[order] += std::pow(cars.mpg.values[i] - mean, order) / n;
   }
   const double skewP = m[3] / std::pow(m[2], 1.5), kurtP = m[4] / (m[2] * m[2]) - 3.0;
   const double skew = skewP * std::sqrt(n * (n - 1.0)) / (n - 2.0);
   const double kurt = ((n + 1.0) * kurtP + 6.0) * (n - 1.0) / ((n - 2.0) * (n - 3.0));
-  const matrix x(32, 1, kMpg, false, 0, 0), w(32, 1, 1.0);
-  expectNear(shapesOf(x, 32, kNone, &w, 0, 0), {mean, m[2], skewP, kurtP, skew, kurt});
+  expectNear(shapesOf(cars.mpg, 32, kNone, &cars.ones, 0, 0), {mean, m[2], skewP, kurtP, skew, kurt});
 }

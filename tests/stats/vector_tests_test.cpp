@@ -4,7 +4,6 @@
 
 #include <climits>
 #include <cmath>
-#include <string>
 #include <vector>
 
 using namespace kav;
@@ -39,28 +38,28 @@ TEST(VectorTests, CellsPastTheEndReadMinusOne) {
 }
 
 TEST(VectorTests, CellsAndTheirOrder) {
-  // Is01, IsWeights, IsCWeights, IsIndicator, IsPositive and strictly, IsSorted and strictly
   const struct {
     std::vector<double> cells;
-    const char* expected;
-  } cases[] = {{{0, 1, 1}, "tttttftf"},
-               {{0, -0.0}, "tffftftf"},
-               {{0.5, 1, 7}, "ftfftttt"},
-               {{-1, 3}, "fttffftt"},
-               {{1, kMissing, 2}, "fffffftt"},
-               {{0x1p60}, "ftfftttt"},
-               {{NAN}, "fffffftt"},
-               {{}, "tffftttt"}};
+    short is01, weights, countWeights, indicator, notNegative, positive, sorted, strictlySorted;
+  } cases[] = {{{0, 1, 1}, -1, -1, -1, -1, -1, 0, -1, 0},
+               {{0, -0.0}, -1, 0, 0, 0, -1, 0, -1, 0},
+               {{0.5, 1, 7}, 0, -1, 0, 0, -1, -1, -1, -1},
+               {{-1, 3}, 0, -1, -1, 0, 0, 0, -1, -1},
+               {{1, kMissing, 2}, 0, 0, 0, 0, 0, 0, -1, -1},
+               {{0x1p60}, 0, -1, 0, 0, -1, -1, -1, -1},
+               {{NAN}, 0, 0, 0, 0, 0, 0, -1, -1},
+               {{}, -1, 0, 0, 0, -1, -1, -1, -1}};
   for (const auto& c : cases) {
     const int n = static_cast<int>(c.cells.size());
     const matrix x(n, 1, c.cells.data(), true, 0, 0);
-    std::string actual;
-    for (const short t :
-         {V_Is01(&x, n), V_IsWeights(&x, n), V_IsCWeights(&x, n), V_IsIndicator(&x, n),
-          V_IsPositive(&x, n, 1), V_IsPositive(&x, n, -1), V_IsSorted(&x, n, 1), V_IsSorted(&x, n, -1)}) {
-      actual += t == -1 ? 't' : t == 0 ? 'f' : '?';
-    }
-    EXPECT_EQ(actual, c.expected);
+    EXPECT_EQ(V_Is01(&x, n), c.is01);
+    EXPECT_EQ(V_IsWeights(&x, n), c.weights);
+    EXPECT_EQ(V_IsCWeights(&x, n), c.countWeights);
+    EXPECT_EQ(V_IsIndicator(&x, n), c.indicator);
+    EXPECT_EQ(V_IsPositive(&x, n, 1), c.notNegative);
+    EXPECT_EQ(V_IsPositive(&x, n, -1), c.positive);
+    EXPECT_EQ(V_IsSorted(&x, n, 1), c.sorted);
+    EXPECT_EQ(V_IsSorted(&x, n, -1), c.strictlySorted);
   }
 }
 

@@ -69,7 +69,8 @@ std::uint64_t hashOfStatistics(const matrix& x, const matrix& kept, const matrix
 std::uint64_t hashOfSorts(const matrix& kept) {
   BitHash hash;
   for (int n : {10, 300, kRows}) {
-    matrix *keys = new matrix(n, &kept), *data = new matrix(n, &kept), *companion = nullptr, *ranks = nullptr;
+    matrix held(n, &kept), others(n, &kept), *keys = &held, *data = &others, *companion = nullptr;
+    Made<matrix> ranks;
     V_GetRanks(keys, n * kColumns, ranks);
     SortQ(data, n, kColumns, 1, n, keys, companion, 0, kTrue, kTrue);
     hash.add(*data).add(*keys).add(*ranks);
@@ -78,9 +79,6 @@ std::uint64_t hashOfSorts(const matrix& kept) {
     hash.add(*data).add(*keys);
     V_NormToVal(keys, n, 2.385);
     hash.add(*keys);
-    delete keys;
-    delete data;
-    delete ranks;
   }
   return hash.value();
 }
@@ -94,9 +92,9 @@ std::uint64_t hashOfAlgebra(const matrix& table, const matrix& kept, const matri
     const double x = kept.values[k];
     square.values[k] = std::fabs(x) < 1e6 ? x : 0.385;
   }
-  matrix *product = nullptr, *covariance = nullptr, *pairwise = nullptr, *means = nullptr,
-         inverse(kSize, kSize);
-  matrix* stdevs = &inverse;
+  Made<matrix> product, covariance, pairwise, means, stdevs;
+  matrix inverse(kSize, kSize);
+  stdevs.held = new matrix(1, 1);  // without a container they are left out
   short singular = kFalse;
   M_ProductAB(&square, kSize, kSize, &square, kSize, product);
   hash.add(*product).add(square.inverse1(&inverse, singular, -1.0)).add(inverse);
@@ -105,11 +103,6 @@ std::uint64_t hashOfAlgebra(const matrix& table, const matrix& kept, const matri
   M_CovCorr(&square, kSize, 9, covariance, kFalse, nullptr, nullptr, kTrue, kFalse);
   M_MeanStDev(&square, kSize, kSize, means, stdevs, nullptr, nullptr, kTrue, kTrue, kFalse);
   hash.add(*covariance).add(*means).add(*stdevs);
-  delete product;
-  delete covariance;
-  delete pairwise;
-  delete means;
-  if (stdevs != &inverse) delete stdevs;
   return hash.value();
 }
 
@@ -123,7 +116,7 @@ std::uint64_t hashOfDecompositions(const matrix& kept) {
       const double x = kept.values[k];
       wide.values[k] = std::fabs(x) < 1e6 ? x : 0.385;
     }
-    matrix *gram = nullptr, *l = nullptr, *values = nullptr, *vectors = nullptr, *index = nullptr;
+    Made<matrix> gram, l, values, vectors, index;
     M_ProductATrA(&wide, n, n + 6, gram);
     for (int i = 0, k = 0; i < n; ++i) {
       for (int j = 0; j <= i; ++j) packed.values[k++] = gram->getElement(i, j);
@@ -146,7 +139,6 @@ std::uint64_t hashOfDecompositions(const matrix& kept) {
     hash.add(info).add(s).add(u).add(v).add(wide);
     M_Log10Matrix(&s, n, 1);
     hash.add(s);
-    for (matrix* m : {gram, l, values, vectors, index}) delete m;
   }
   return hash.value();
 }
@@ -194,10 +186,9 @@ Hashes hashesOfCorpus() {
   matrix transposed(kColumns, kRows), stacked(kRows * kColumns, 1);
   table.transposeTo(&transposed);
   table.vectorizeTo(&stacked);
-  matrix* reversed = nullptr;
+  Made<matrix> reversed;
   V_Reverse(&kept, kRows * kColumns, reversed);
   hashes["copies"] = BitHash().add(transposed).add(stacked).add(*reversed).value();
-  delete reversed;
   return hashes;
 }
 

@@ -66,9 +66,20 @@ inline testing::AssertionResult same(const matrix& actual, const matrix& expecte
   return holds(actual, expected.nX, expected.pX, cellsOf(expected));
 }
 
-inline void exchange(matrix& m, int i, int j, int k, int l) {
-  const double cell = m.vbget(i, j);
-  m.vbset(i, j, m.vbget(k, l)), m.vbset(k, l, cell);
+/// Sums of binomials of the row and the column, and binomials themselves below the diagonal: whole numbers.
+inline std::unique_ptr<matrix> pascalsTable(int n) {
+  auto a = std::make_unique<matrix>(n, n, 1.0);
+  byDefinition(*a, n, n, [&](int i, int j) {
+    return i == 1 || j == 1 ? 1.0 : a->vbget(i - 1, j) + a->vbget(i, j - 1);
+  });
+  return a;
+}
+
+inline std::unique_ptr<matrix> binomials(int n) {
+  const auto pascal = pascalsTable(n);
+  auto a = std::make_unique<matrix>(n, n, 0.0);
+  byDefinition(*a, n, n, [&](int i, int j) { return i < j ? 0.0 : pascal->vbget(i - j + 1, j); });
+  return a;
 }
 
 inline auto at(const matrix& m) {
@@ -93,7 +104,9 @@ double residual(int n, Left left, Right right, Target target) {
     const int i = k % n + 1, j = k / n + 1;
     double cell = -target(i, j);
     for (int l = 1; l <= n; ++l) cell += left(i, l) * right(l, j);
-    take(0, left(i, j)), take(1, right(i, j)), take(2, cell);
+    take(0, left(i, j));
+    take(1, right(i, j));
+    take(2, cell);
   }
   const double scale = n * largest[0] * largest[1] * kEpsilon;
   return scale > 0.0 && scale < HUGE_VAL ? largest[2] / scale : 0.0;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/contents.h"
+#include "definitions/covariance.h"
 #include "support/random.h"
 
 using namespace kav;
@@ -69,85 +70,72 @@ void byDefinition(matrix& c, int rows, int columns, Cell cell) {
   }
 }
 
-/// Checks workers on operands with extents n, p and q. A worker's name begins with the rows and columns of
-/// its result, extents or a digit; then ' ' where it is prepared, '+' where it is the caller's, 'p' where
-/// also something of p rows is prepared, '0' where it is the caller's and written even when there is nothing
-/// to add.
+/// An extent of a check, or with its number one that is always the same.
+enum Extent { kNone = 0, kOne = 1, kTwo = 2, kN = -1, kP = -2, kQ = -3 };
+
+enum Kind {
+  kRefilled,      ///< brought to its shape and filled anew
+  kWritten,       ///< the caller's, in which cells are written where the extents have any
+  kAlwaysWritten  ///< the caller's, written even when there is nothing to add
+};
+
+/// What a worker makes.
+struct Result {
+  Extent rows, columns;
+  Kind kind = kRefilled;
+  Extent alsoRefilled = kNone;  ///< rows of another result that is refilled
+};
+
+/// Checks workers on operands with extents n, p and q.
 struct WorkerCheck {
   /// Whether run(n, p, result) makes just the cells that are defined, and nothing of extents without cells.
   template <class Cell, class Run>
-  void operator()(const char* name, Cell cell, Run run) const {
-    inContainer(name, cell, run, false);
-    if (name[2] == ' ') inContainer(name, cell, run, true);
-    if (name[2] != '0') withoutCells(name, run);
+  void operator()(const char* name, Result made, Cell cell, Run run) const {
+    SCOPED_TRACE(name);
+    inContainer(made, cell, run, false);
+    if (made.kind == kRefilled) inContainer(made, cell, run, true);
+    if (made.kind != kAlwaysWritten) withoutCells(made, run);
   }
 
-  /// Whether without a cell run makes a prepared result all the same, and leaves the caller's as it was.
+  /// Whether without a cell run makes a refilled result all the same, and leaves the caller's as it was.
   template <class Run>
-  void withoutCells(const char* name, Run run, double filled = 0.0) const {
+  void withoutCells(Result made, Run run, double filled = 0.0) const {
     const int most = std::numeric_limits<int>::max();
+    const auto cell = [filled](int, int) { return filled; };
+    const bool refills = made.kind == kRefilled || made.alsoRefilled != kNone;
     for (const auto& [i, j] : {std::pair(0, 3), {3, 0}, {-2, 3}, {3, -2}, {most, 0}, {0, most}}) {
       const WorkerCheck own = {i, j, q};
-      const int largest = std::max({own.extent(name[0]), own.extent(name[1]), own.extent(name[2])});
-      if (largest == most && name[2] != '+') continue;  // would need the memory
-      own.inContainer(
-          name, [=](int, int) { return filled; }, run, name[2] == ' ');
+      const int rows[] = {own.size(made.rows), own.size(made.columns), own.size(made.alsoRefilled)};
+      if (refills && *std::max_element(rows, rows + 3) == most) continue;  // would need the memory
+      own.inContainer(made, cell, run, made.kind == kRefilled);
     }
   }
 
   /// In a container of the result's shape, a cell flagged, a column wider where it is the caller's; or in one
   /// of another shape.
   template <class Cell, class Run>
-  void inContainer(const char* name, Cell cell, Run run, bool reshaped) const {
-    SCOPED_TRACE(testing::Message() << name << ", " << n << " x " << p);
-    const bool prepared = name[2] == ' ', stays = !prepared && name[2] != '0' && (n < 1 || p < 1);
-    const int rows = stays ? 5 : extent(name[0]), columns = stays ? 3 : extent(name[1]);
-    matrix held(rows + reshaped, columns + !prepared, 4.75), expected(rows, held.pX, prepared ? 0.0 : 4.75);
-    held.setMissing(rows / 2, columns / 2, true), expected.setMissing(rows / 2, columns / 2, !reshaped);
+  void inContainer(Result made, Cell cell, Run run, bool reshaped) const {
+    SCOPED_TRACE(testing::Message() << n << " x " << p);
+    const bool refilled = made.kind == kRefilled;
+    const bool stays = made.kind == kWritten && (n < 1 || p < 1);
+    const int rows = stays ? 5 : size(made.rows), columns = stays ? 3 : size(made.columns);
+    matrix held(rows + reshaped, columns + !refilled, 4.75), expected(rows, held.pX, refilled ? 0.0 : 4.75);
+    held.setMissing(rows / 2, columns / 2, true);
+    expected.setMissing(rows / 2, columns / 2, !reshaped);
     if (!stays) byDefinition(expected, rows, columns, cell);
     matrix* c = &held;
     run(n, p, c);
-    EXPECT_EQ(c != &held, reshaped);
+    const std::unique_ptr<matrix> own(c == &held ? nullptr : c);
+    EXPECT_EQ(own != nullptr, reshaped);
     EXPECT_TRUE(holds(*c, rows, expected.pX, cellsOf(expected)));
-    if (c != &held) delete c;
   }
 
-  int extent(char of) const { return of == 'n' ? n : of == 'p' ? p : of == 'q' ? q : of - '0'; }
+  int size(Extent of) const { return of == kN ? n : of == kP ? p : of == kQ ? q : int{of}; }
 
-  int n, p, q;
+  int n, p, q = 0;
 };
 
-/// The weighted one-pass update of two columns, or of one that is both, over the rows so far.
-struct WeightedUpdate {
-  WeightedUpdate() = default;
-
-  /// Over the first n rows, as far as used(row) and of a weight other than 0.0; null weights are 1.0. All
-  /// 0-based.
-  template <class Used>
-  WeightedUpdate(const matrix& table, int a, int b, int n, const matrix* weights, Used used) {
-    for (int i = 0; i < n; ++i) {
-      const double w = weights == nullptr ? 1.0 : weights->getElement(i);
-      if (w != 0.0 && used(i)) add(table.getElement(i, a), table.getElement(i, b), w);
-    }
-  }
-
-  void add(double a, double b, double w) {
-    total += w, count += 1.0;
-    const double dA = a - meanA, dB = b - meanB, factor = total == w ? 0.0 : w - w * w / total;
-    squares += factor * (dA * dA);
-    products += factor * dB * dA;
-    meanA += w / total * dA;
-    meanB += w / total * dB;
-  }
-
-  double divisor(short unbiased, short frequencies) const {
-    return unbiased != kTrue ? total : frequencies == kTrue ? total - 1.0 : total - total / count;
-  }
-
-  double total = 0.0, count = 0.0, squares = 0.0, products = 0.0, meanA = 0.0, meanB = 0.0;
-};
-
-/// Whether run prepares a result with those cells, and no flag of its own.
+/// Whether run refills a result with those cells, and no flag of its own.
 template <class Cell, class Run>
 void expectMakes(int rows, int columns, Cell cell, Run run) {
   for (const bool reshaped : {false, true}) {
@@ -155,7 +143,7 @@ void expectMakes(int rows, int columns, Cell cell, Run run) {
       if (reshaped && rows % 2 == 0) c = nullptr;
       run(c);
     };
-    WorkerCheck{rows, columns, 0}.inContainer("np ", cell, inNewOne, reshaped);
+    WorkerCheck{rows, columns}.inContainer({kN, kP}, cell, inNewOne, reshaped);
   }
   matrix whole(rows, columns, 4.75), expected(rows, columns, 0.0), *made = &whole;
   byDefinition(expected, rows, columns, cell);

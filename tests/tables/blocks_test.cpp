@@ -48,7 +48,8 @@ void forAllRanges(Check check) {
   const int positions[] = {INT_MIN, -1, 0, 1, 2, 3, 4, 6, INT_MAX}, sizes[] = {-1, 0, 1, 3, 4, 6};
   Random random(911);
   const auto a = randomTable(random, 4, 3, 8);
-  a->values[5] = kMissing, a->missing[6] = true;
+  a->values[5] = kMissing;
+  a->missing[6] = true;
   for (int k = 0; k < 6 * 6 * 9 * 9; ++k) {
     const int n = sizes[k % 6], p = sizes[k / 6 % 6], from = positions[k / 36 % 9], to = positions[k / 324];
     SCOPED_TRACE(testing::Message() << n << " x " << p << ", " << from << " to " << to);
@@ -122,7 +123,8 @@ TEST(Blocks, PastedAndMovedEqualTheirDefinition) {
     expectBecomes(*b, *line, [&](C own) { CopyMatrixRowToMatrixRow(&a, n, p, from, own, 3, to); });
     auto order = within(n, 1, n);
     if (from >= 1 && to >= 1 && from <= n && to <= n) {
-      order.erase(order.begin() + from - 1), order.insert(order.begin() + to - 1, from);
+      order.erase(order.begin() + from - 1);
+      order.insert(order.begin() + to - 1, from);
     }
     const std::unique_ptr<matrix> rows(pick(a, order, within(p, 1, p))), moved = copyOf(a);
     byDefinition(*moved, n, p, [&](int i, int j) { return rows->vbget(i, j); });
@@ -133,7 +135,9 @@ TEST(Blocks, PastedAndMovedEqualTheirDefinition) {
 TEST(Blocks, StringsThatAreNotThereAreEmpty) {
   const std::u16string label = u"a label longer than a string object holds";
   Smatrix labels(2, 2), held(1, 3), *out = &held, *resized = nullptr, *x = nullptr;
-  labels.setElement(1, label), labels.setElement(2, u"b"), held.setElement(2, u"old");
+  labels.setElement(1, label);
+  labels.setElement(2, u"b");
+  held.setElement(2, u"old");
   M_ExtractMatToMat(&labels, 3, 3, 2, 2, out);
   M_CopyResize(&labels, 2, 2, resized, 1, 3);
   CopyMatrixColToOneColMat(&labels, 3, 2, x);

@@ -66,21 +66,12 @@ TEST(Categories, CodesAndIndicatorsEqualTheirDefinition) {
       }
       return 0.0;
     };
-    const auto expectMakes = [&](int columns, auto cell, auto run) {
-      const auto inOne = [&](int, int, matrix*& c) { run(c); };
-      for (const bool reshaped : {false, true}) {
-        WorkerCheck{n, columns, 0}.inContainer("np ", cell, inOne, reshaped);
-      }
-      matrix whole(n, columns, 4.75), expected(n, columns, 0.0), *made = &whole;
-      byDefinition(expected, n, columns, cell);
-      run(made);
-      EXPECT_TRUE(made == &whole && holds(whole, n, columns, cellsOf(expected)));
-    };
     const Smatrix *l = labels.get(), *c = all.get();
     const int *of = counts.data(), columns = round % 13;
-    expectMakes(p, code, [&](matrix*& made) { M_ReplaceCatByCodes(l, n, p, of, c, made); });
-    expectMakes(p, flagged, [&](matrix*& made) { M_ReplaceStrByCodes(l, n, p, of, c, rows, first, made); });
-    expectMakes(columns, indicator, [&](matrix*& made) {
+    expectMakes(n, p, code, [&](matrix*& made) { M_ReplaceCatByCodes(l, n, p, of, c, made); });
+    expectMakes(n, p, flagged,
+                [&](matrix*& made) { M_ReplaceStrByCodes(l, n, p, of, c, rows, first, made); });
+    expectMakes(n, columns, indicator, [&](matrix*& made) {
       BuildDisjunctiveTable(l, n, p, of, c, columns, made, constraint, leaveFirst);
     });
   }

@@ -32,11 +32,14 @@ TEST(Merges, EqualTheirDefinitionForAllExtents) {
   Random random(901);
   const auto first = randomTable(random, 3, 2, 8), second = randomTable(random, 2, 3, 8);
   const matrix none(0, 0);
-  first->values[1] = kOutside, second->values[0] = kMissing, first->missing[4] = second->missing[1] = true;
+  first->values[1] = kOutside;
+  second->values[0] = kMissing;
+  first->missing[4] = second->missing[1] = true;
   Smatrix labels(3, 2), others(2, 3);
   for (int k = 0; k < 6; ++k) {
     for (matrix* m : {first.get(), second.get()}) m->values[k] += m->values[k] == 0.0 ? 2.5 : 0.0;
-    labels.setElement(k, textOf(first->values[k])), others.setElement(k, textOf(second->values[k]));
+    labels.setElement(k, textOf(first->values[k]));
+    others.setElement(k, textOf(second->values[k]));
   }
   const int extents[] = {-2, 0, 1, 3, 4};
   for (int k = 0; k < 5 * 5 * 5 * 5; ++k) {
