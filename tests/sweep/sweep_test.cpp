@@ -47,7 +47,8 @@ class HostileState {
   HostileState() : sse_(_mm_getcsr()) {
     asm volatile("fnstcw %0" : "=m"(x87_));
     const unsigned short x87 = 0x0B40;
-    asm volatile("fldcw %0" : : "m"(x87));
+    // Exceptions recorded before are none of the library's.
+    asm volatile("fnclex\n\tfldcw %0" : : "m"(x87));
     _mm_setcsr(kSse);
   }
   HostileState(const HostileState&) = delete;
