@@ -12,8 +12,9 @@ double weightedMean(int n, Rule rule, Value value, Weight weight) {
   double sum = 0.0;
   double total = 0.0;
   usable::forEach(n, rule, [&](int i) {
-    total += weight(i);
-    sum += value(i) * weight(i);
+    const double w = weight(i);
+    total += w;
+    sum += value(i) * w;
   });
   return sum / total;
 }
