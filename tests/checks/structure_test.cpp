@@ -124,3 +124,14 @@ TEST(Structure, ConstantColumns) {
   }
   EXPECT_EQ(M_IsColConstant(&a, INT_MAX, 0) + M_IsColConstant(&a, 0, INT_MAX), 0);
 }
+
+TEST(Structure, PositiveCellsOfTheRowsThatTakePart) {
+  const double cells[] = {0, -1, 1, kMissing, 100, 0.01};
+  const short none[] = {0, 0}, second[] = {0, 7};
+  const matrix a(2, 3, cells, true, 0, 0);
+  EXPECT_EQ(M_IsPositive(&a, 2, 3, second, 0), -1);
+  EXPECT_EQ(M_IsPositive(&a, 2, 3, none, 0), 0);
+  EXPECT_EQ(M_IsPositive(&a, 1, 3, none, 1), -1);
+  EXPECT_EQ(M_IsPositive(&a, 1, 3, none, -1), 0);
+  EXPECT_EQ(M_IsPositive(&a, 0, 3, nullptr, -1), -1);
+}

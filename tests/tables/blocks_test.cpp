@@ -3,7 +3,6 @@
 #include <climits>
 #include <cmath>
 
-#include "kavoratb1c/sampling/indicators.h"
 #include "kavoratb1c/tables/single_columns.h"
 #include "support/tables.h"
 
@@ -91,8 +90,6 @@ TEST(Blocks, CopiedAndRemovedEqualTheirDefinition) {
     for (const int q : {-1, 2, 5}) {
       expectMakes(5 - q, q, resized, [&](C c) { M_CopyResize(t, n, p, c, 5 - q, q); });
     }
-    const auto indicator = [&](int i, int) { return i >= from && i <= to ? 1.0 : 0.0; };
-    expectMakes(n, 1, indicator, [&](C x) { GenerateIndicator(x, n, from, to); });
     const auto copied = [&](int i, int) { return cells.vbget(i, from); };
     if (from >= 1) expectMakes(n, 1, copied, [&](C x) { CopyMatrixColToVector(t, n, from, x); });
   });
