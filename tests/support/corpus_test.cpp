@@ -94,7 +94,7 @@ std::uint64_t hashOfAlgebra(const matrix& table, const matrix& kept, const matri
   }
   Made<matrix> product, covariance, pairwise, means, stdevs;
   matrix inverse(kSize, kSize);
-  stdevs.held = new matrix(1, 1);  // without a container they are left out
+  stdevs.held = new matrix(kSize, 1);  // without a container they are left out
   short singular = kFalse;
   M_ProductAB(&square, kSize, kSize, &square, kSize, product);
   hash.add(*product).add(square.inverse1(&inverse, singular, -1.0)).add(inverse);
