@@ -321,6 +321,7 @@ void M_CorrMatMat(const matrix* a, int n, int p1, const matrix* b, int p2, matri
     const Cells left(a, n, p1), right(b, n, p2);
     const auto variancesOf = [&](const Cells& cells, int p) {
       std::vector<double> variances;
+      variances.reserve(static_cast<std::size_t>(p));
       for (int j = 0; j < p; ++j) variances.push_back(covarianceOf(rows, cells, j, cells, j, denominator));
       return variances;
     };
